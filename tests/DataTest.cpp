@@ -1,0 +1,1 @@
+// Tests of this family are added here.
