@@ -81,6 +81,19 @@ protected:
   void appendMissingEntries(tinyxml2::XMLElement *Root, Program *P,
                             bool Located);
 
+  // --- Data division ------------------------------------------------------------
+  /// \p Entry followed by all its subordinate entries, in pre-order.
+  std::list<DataDescription *> getChildList(ExDataDescription *Entry);
+  /// Writes the entries of [Begin, End) under \p Parent, the hierarchy
+  /// flattened, and leaves \p Parent in the return-element slot.
+  void acceptDataList(unsigned long Count,
+                      NodeList<DataDescription>::const_iterator Begin,
+                      NodeList<DataDescription>::const_iterator End,
+                      tinyxml2::XMLElement *Parent);
+  /// The text written for a USAGE word (normalised): the long forms lose
+  /// their hyphen ("COMPUTATIONAL-3" gives "COMP3"), others stay as they are.
+  static std::string usageName(const std::string &Normalised);
+
   XMLHandler *Handler = nullptr;
 };
 
