@@ -5,7 +5,7 @@
 // not) with the locations of its text, and writes the program document, the
 // missing-copybook document and the error document:
 //
-//   korvid-example [OUTPUT-DIRECTORY]
+//   korvid-example [OUTPUT-DIRECTORY]   (made if missing; default: .)
 //
 //===----------------------------------------------------------------------===//
 
@@ -13,12 +13,21 @@
 #include "korvid/XMLOstrel.h"
 
 #include <cstdio>
+#include <filesystem>
 #include <string>
+#include <system_error>
 
 using namespace korvid;
 
 int main(int argc, char **argv) {
   std::string Dir = argc > 1 ? argv[1] : ".";
+  std::error_code Err;
+  std::filesystem::create_directories(Dir, Err);
+  if (Err) {
+    std::fprintf(stderr, "korvid-example: error: %s: %s\n", Dir.c_str(),
+                 Err.message().c_str());
+    return 1;
+  }
   const std::string Main = "HELLO.cbl", Copy = "GREETING.cpy";
 
   Program P(Main);

@@ -1,6 +1,6 @@
 # Runs the example program and checks the documents it writes.
 file(REMOVE_RECURSE ${OUT})
-file(MAKE_DIRECTORY ${OUT})
+
 execute_process(COMMAND ${EXAMPLE} ${OUT} RESULT_VARIABLE rc)
 if(NOT rc EQUAL 0)
   message(FATAL_ERROR "example failed: ${rc}")
