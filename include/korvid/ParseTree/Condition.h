@@ -14,7 +14,7 @@
 namespace korvid {
 
 /// Which condition class a Condition is.
-enum ConditionType {
+enum ConditionType : int32_t {
   COND_NONE = 0,
   COND_COND_NAME = 1,
   COND_SWITCH = 2,
@@ -27,7 +27,7 @@ enum ConditionType {
 };
 
 /// The test of a class condition; the NOT_ forms are the negated tests.
-enum ClassOperatorType {
+enum ClassOperatorType : int32_t {
   CLS_OP_NONE = 0,
   CLS_OP_NUM = 1,
   CLS_OP_ALPHA = 2,
@@ -49,7 +49,7 @@ enum ClassOperatorType {
 };
 
 /// The test of a sign condition; the NOT_ forms are the negated tests.
-enum SignOperatorType {
+enum SignOperatorType : int32_t {
   SIGN_OP_NONE = 0,
   SIGN_OP_POSITIVE = 1,
   SIGN_OP_NEGATIVE = 2,
@@ -60,7 +60,7 @@ enum SignOperatorType {
 };
 
 /// The logical operator of a combined condition.
-enum CombinedOperatorType {
+enum CombinedOperatorType : int32_t {
   COMB_OP_NONE = 0,
   COMB_OP_OR = 1,
   COMB_OP_AND = 2,

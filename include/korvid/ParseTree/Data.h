@@ -28,7 +28,7 @@ namespace korvid {
 //===----------------------------------------------------------------------===//
 
 /// Which kind of entry a DataDescription is, and so which class it is.
-enum DataDescType {
+enum DataDescType : int32_t {
   DESC_NONE = 0,
   /// An ordinary level-number entry (ExDataDescription).
   DESC_NORMAL = 1,
@@ -45,7 +45,7 @@ enum DataDescType {
 };
 
 /// The category of a data item, as resolved from its picture and usage.
-enum DataCategory {
+enum DataCategory : int32_t {
   DC_NONE = 0,
   DC_ALPHABETIC = 1,
   DC_ALPHANUMERIC = 2,
@@ -62,7 +62,7 @@ enum DataCategory {
 };
 
 /// The section of the data division in which a data item is described.
-enum DataArea {
+enum DataArea : int32_t {
   DATA_AREA_NONE = 0,
   DATA_AREA_FILE = 1,
   DATA_AREA_WORKING = 2,
@@ -73,7 +73,7 @@ enum DataArea {
 
 /// The usage of a data item, resolved from its own USAGE clause or the one
 /// of the group that holds it.
-enum UsageType {
+enum UsageType : int32_t {
   USAGE_NONE = 0,
   USAGE_BINARY = 1,
   USAGE_COMP = 2,
@@ -94,7 +94,7 @@ enum UsageType {
 };
 
 /// The order of a key: of an OCCURS key, or of a SORT / MERGE key.
-enum SortKeyType {
+enum SortKeyType : int32_t {
   SRT_KEY_NONE = 0,
   SRT_KEY_ASC = 1,
   SRT_KEY_DSC = 2,

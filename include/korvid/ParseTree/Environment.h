@@ -16,7 +16,7 @@
 namespace korvid {
 
 /// The file access mode of an ACCESS MODE clause.
-enum ClauseAccessType {
+enum ClauseAccessType : int32_t {
   ACCESS_TYPE_NONE = 0,
   ACCESS_TYPE_SEQUENTIAL = 1,
   ACCESS_TYPE_RANDOM = 2,
@@ -24,7 +24,7 @@ enum ClauseAccessType {
 };
 
 /// The file organization of an ORGANIZATION clause.
-enum ClauseOrganizationType {
+enum ClauseOrganizationType : int32_t {
   ORGANIZATION_TYPE_NONE = 0,
   ORGANIZATION_TYPE_SEQUENTIAL = 1,
   ORGANIZATION_TYPE_LINE_SEQUENTIAL = 2,
@@ -34,7 +34,7 @@ enum ClauseOrganizationType {
 };
 
 /// The buffering option of a report-writer DUPLICATE clause.
-enum ClauseRwDuplicateType {
+enum ClauseRwDuplicateType : int32_t {
   RW_DUPLICATE_NONE = 0,
   RW_DUPLICATE_PAGE_BUFFER = 1, ///< WITH PAGE BUFFER
   RW_DUPLICATE_RANDOM_PAGE = 2, ///< WITH RANDOM PAGE

@@ -17,7 +17,7 @@
 namespace korvid {
 
 /// Which expression class an Expression is.
-enum ExpressionType {
+enum ExpressionType : int32_t {
   EXPR_NONE = 0,
   EXPR_LITRL_NUM = 1,
   EXPR_LITRL_NON_NUM = 2,
@@ -30,7 +30,7 @@ enum ExpressionType {
 };
 
 /// The operator of an arithmetic expression.
-enum ArithmeticExprType {
+enum ArithmeticExprType : int32_t {
   ARITH_EXPR_NONE = 0,
   ARITH_EXPR_UNARY_PLUS = 1,
   ARITH_EXPR_UNARY_MINUS = 2,
@@ -43,7 +43,7 @@ enum ArithmeticExprType {
 };
 
 /// Which figurative constant a figurative literal is.
-enum FigurativeType {
+enum FigurativeType : int32_t {
   FIG_NONE = 0,
   FIG_ZERO = 1,
   FIG_SPACE = 2,
@@ -58,7 +58,7 @@ enum FigurativeType {
 };
 
 /// Which special register a special-register identifier names.
-enum SpecialRegisterType {
+enum SpecialRegisterType : int32_t {
   SR_NONE = 0,
   SR_LINAGE_COUNTER = 1,
   SR_RETURN_CODE = 2,
@@ -99,7 +99,7 @@ enum SpecialRegisterType {
 
 /// The connective joining the parts of an abbreviated combined relation
 /// (A = B OR C): OR, AND, exclusive OR, each also followed by NOT.
-enum AbbrRelationCombinedType {
+enum AbbrRelationCombinedType : int32_t {
   ABBR_COMB_NONE = 0,
   ABBR_COMB_OR = 1,
   ABBR_COMB_AND = 2,
@@ -112,7 +112,7 @@ enum AbbrRelationCombinedType {
 /// The operator of a relation (also the relational operator that applies to
 /// a parenthesised list of abbreviated relations). NOT_NONE is a NOT with
 /// no operator after it.
-enum RelationalConditionType {
+enum RelationalConditionType : int32_t {
   REL_OP_NONE = 0,
   REL_OP_NOT_NONE = 1,
   REL_OP_GT = 2,
@@ -125,7 +125,7 @@ enum RelationalConditionType {
 
 /// A bitwise boolean operator (B-AND, B-OR, B-XOR, B-NOT) of a boolean
 /// expression.
-enum BitOperatorType {
+enum BitOperatorType : int32_t {
   BIT_OP_NONE = 0,
   BIT_OP_AND = 1,
   BIT_OP_OR = 2,

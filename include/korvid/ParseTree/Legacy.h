@@ -23,7 +23,7 @@ namespace korvid {
 //===----------------------------------------------------------------------===//
 
 /// Which older-dialect statement a ClassicStatement is.
-enum ClassicStatementType {
+enum ClassicStatementType : int32_t {
   CLASSIC_STMT_NONE = 0,
   CLASSIC_STMT_EXAMINE = 1,
   CLASSIC_STMT_EXHIBIT = 2,
@@ -32,14 +32,14 @@ enum ClassicStatementType {
 };
 
 /// The form of EXAMINE: counting (TALLYING) or replacing.
-enum ClassicExamineType {
+enum ClassicExamineType : int32_t {
   CLASSIC_EXAMINE_NONE = 0,
   CLASSIC_EXAMINE_TALLYING = 1,
   CLASSIC_EXAMINE_REPLACING = 2,
 };
 
 /// The form of EXHIBIT: NAMED, CHANGED, or CHANGED NAMED.
-enum ClassicExhibitType {
+enum ClassicExhibitType : int32_t {
   CLASSIC_EXHIBIT_NONE = 0,
   CLASSIC_EXHIBIT_NAMED = 1,
   CLASSIC_EXHIBIT_CHANGED = 2,
@@ -199,7 +199,7 @@ private:
 //===----------------------------------------------------------------------===//
 
 /// Which IDMS DML or DC verb an IDMSStatement is.
-enum IDMSStatementType {
+enum IDMSStatementType : int32_t {
   IDMS_STMT_NONE = 0,
   IDMS_STMT_ABEND = 1,
   IDMS_STMT_ACCEPT = 2,
@@ -244,7 +244,7 @@ enum IDMSStatementType {
 };
 
 /// How FIND or OBTAIN selects its record.
-enum IDMSFindObtainWhereType {
+enum IDMSFindObtainWhereType : int32_t {
   IDMS_FIND_OBTAIN_WHERE_NONE = 0,
   IDMS_FIND_OBTAIN_WHERE_CALC = 1,
   IDMS_FIND_OBTAIN_WHERE_CURRENT = 2,
@@ -255,7 +255,7 @@ enum IDMSFindObtainWhereType {
 };
 
 /// Which entry GET QUEUE or GET SCRATCH takes.
-enum IDMSGetWhichType {
+enum IDMSGetWhichType : int32_t {
   IDMS_GET_WHICH_NONE = 0,
   IDMS_GET_WHICH_CURRENT = 1,
   IDMS_GET_WHICH_FIRST = 2,
@@ -265,7 +265,7 @@ enum IDMSGetWhichType {
 };
 
 /// The operator of an IDMS IF condition.
-enum IDMSLogicalOperatorType {
+enum IDMSLogicalOperatorType : int32_t {
   IDMS_LOGICAL_OP_NONE = 0,
   IDMS_LOGICAL_OP_AND = 1,
   IDMS_LOGICAL_OP_OR = 2,
@@ -273,7 +273,7 @@ enum IDMSLogicalOperatorType {
 };
 
 /// Which page a paged MAP OUT or MAP IN addresses.
-enum IDMSMapPageType {
+enum IDMSMapPageType : int32_t {
   IDMS_MAP_PAGE_NONE = 0,
   IDMS_MAP_PAGE_CURRENT = 1,
   IDMS_MAP_PAGE_FIRST = 2,
@@ -283,14 +283,14 @@ enum IDMSMapPageType {
 };
 
 /// Whether a COPY IDMS statement copies a record or a work record.
-enum IDMSWorkCopyType {
+enum IDMSWorkCopyType : int32_t {
   IDMS_WORK_COPY_NONE = 0,
   IDMS_WORK_COPY_RECORD = 1,
   IDMS_WORK_COPY_WORK = 2,
 };
 
 /// Which entries DELETE QUEUE or DELETE SCRATCH removes.
-enum DeleteWhichType {
+enum DeleteWhichType : int32_t {
   DELETE_WHICH_NONE = 0,
   DELETE_WHICH_CURRENT = 1,
   DELETE_WHICH_FIRST = 2,
@@ -301,7 +301,7 @@ enum DeleteWhichType {
 };
 
 /// The field test of INQUIRE MAP ... IF FIELD.
-enum InquireIfFieldType {
+enum InquireIfFieldType : int32_t {
   INQUIRE_IF_FIELD_NONE = 0,
   INQUIRE_IF_FIELD_DATA_YES = 1,
   INQUIRE_IF_FIELD_DATA_NO = 2,
@@ -314,7 +314,7 @@ enum InquireIfFieldType {
 };
 
 /// The input test of INQUIRE MAP ... IF INPUT.
-enum InquireInputType {
+enum InquireInputType : int32_t {
   INQUIRE_INPUT_NONE = 0,
   INQUIRE_INPUT_UNFORMATTED = 1,
   INQUIRE_INPUT_TRUNCATED = 2,
@@ -323,14 +323,14 @@ enum InquireInputType {
 };
 
 /// The form of INQUIRE MAP: a MOVE of map information or an IF test.
-enum InquireOptionType {
+enum InquireOptionType : int32_t {
   INQUIRE_OPTION_NONE = 0,
   INQUIRE_OPTION_MOVE = 1,
   INQUIRE_OPTION_IF = 2,
 };
 
 /// The map options MODIFY MAP changes.
-enum ModiOptionsType {
+enum ModiOptionsType : int32_t {
   MODI_OPTIONS_NONE = 0,
   MODI_OPTIONS_CURSOR = 1,
   MODI_OPTIONS_WCC = 2,
@@ -338,7 +338,7 @@ enum ModiOptionsType {
 };
 
 /// The fields MODIFY MAP ... FOR applies to.
-enum ModifyForType {
+enum ModifyForType : int32_t {
   MODIFY_FOR_NONE = 0,
   MODIFY_FOR_ALL = 1,
   MODIFY_FOR_ALL_BUT = 2,
@@ -348,7 +348,7 @@ enum ModifyForType {
 };
 
 /// The run-time environment named by PROTOCOL ... MODE IS.
-enum ProtocolModeType {
+enum ProtocolModeType : int32_t {
   PROTOCOL_MODE_NONE = 0,
   PROTOCOL_MODE_BATCH = 1,
   PROTOCOL_MODE_DC_BATCH = 2,
@@ -357,7 +357,7 @@ enum ProtocolModeType {
 };
 
 /// What SET TIMER does when the interval ends.
-enum SetTimerOption {
+enum SetTimerOption : int32_t {
   SET_TIMER_NONE = 0,
   SET_TIMER_WAIT = 1,
   SET_TIMER_POST = 2,
@@ -366,7 +366,7 @@ enum SetTimerOption {
 };
 
 /// How a DC RETURN or ATTACH treats the next task.
-enum TaskOption {
+enum TaskOption : int32_t {
   TASK_OPTION_NONE = 0,
   TASK_OPTION_NEXT_TASK = 1,
   TASK_OPTION_IMMEDIATE = 2,
@@ -374,7 +374,7 @@ enum TaskOption {
 };
 
 /// How TRANSFER CONTROL passes control.
-enum TransferOption {
+enum TransferOption : int32_t {
   TRANSFER_OPTION_NONE = 0,
   TRANSFER_OPTION_RETURN = 1,
   TRANSFER_OPTION_LINK = 2,
@@ -383,7 +383,7 @@ enum TransferOption {
 };
 
 /// Whether a DC request waits for completion.
-enum WaitOptionType {
+enum WaitOptionType : int32_t {
   WAIT_OPTION_NONE = 0,
   WAIT_OPTION_WAIT = 1,
   WAIT_OPTION_NOWAIT = 2,
@@ -391,7 +391,7 @@ enum WaitOptionType {
 };
 
 /// The write-control-character option of a terminal or map write.
-enum WccOptionType {
+enum WccOptionType : int32_t {
   WCC_OPTION_NONE = 0,
   WCC_OPTION_RESETMDT = 1,
   WCC_OPTION_NOMDT = 2,
@@ -403,7 +403,7 @@ enum WccOptionType {
 };
 
 /// Whether WRITE JOURNAL waits for the journal write.
-enum WriteJournalOption {
+enum WriteJournalOption : int32_t {
   WRITE_JOURNAL_NONE = 0,
   WRITE_JOURNAL_WAIT = 1,
   WRITE_JOURNAL_NOWAIT = 2,

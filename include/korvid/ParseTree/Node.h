@@ -18,12 +18,16 @@
 
 namespace korvid {
 
+// Every enumeration of the tree has a fixed 32-bit type, so a node can hold
+// any 32-bit value in it: visitors meet values no enumerator names (a broken
+// tree) and must be able to test for them without undefined behaviour.
+
 /// The list type of every list-valued part of a node. Items may be null.
 template <class T> using NodeList = std::list<T *>;
 
 /// Whether a node is one of the extended descriptions that carry computed
 /// layout (size, offset, category) besides the parsed clauses.
-enum ExNodeType {
+enum ExNodeType : int32_t {
   EX_NODE_TYPE_NONE = 0,
   EX_NODE_TYPE_EXDATADESCRIPTION = 1,
   EX_NODE_TYPE_EXFILEDESCRIPTION = 2,

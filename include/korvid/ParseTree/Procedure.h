@@ -25,7 +25,7 @@ namespace korvid {
 //===----------------------------------------------------------------------===//
 
 /// The form of an ADD statement.
-enum AddStmtType {
+enum AddStmtType : int32_t {
   ADD_STMT_NONE = 0,
   ADD_STMT_SIMPLE = 1,
   ADD_STMT_GIVING = 2,
@@ -33,7 +33,7 @@ enum AddStmtType {
 };
 
 /// The form of a SUBTRACT statement.
-enum SubStmtType {
+enum SubStmtType : int32_t {
   SUB_STMT_NONE = 0,
   SUB_STMT_SIMPLE = 1,
   SUB_STMT_GIVING = 2,
@@ -41,14 +41,14 @@ enum SubStmtType {
 };
 
 /// The form of a MULTIPLY statement.
-enum MulStmtType {
+enum MulStmtType : int32_t {
   MUL_STMT_NONE = 0,
   MUL_STMT_SIMPLE = 1,
   MUL_STMT_GIVING = 2,
 };
 
 /// The form of a DIVIDE statement.
-enum DivStmtType {
+enum DivStmtType : int32_t {
   DIV_STMT_NONE = 0,
   DIV_STMT_SIMPLE = 1,
   DIV_STMT_INTO_GIVING = 2,
@@ -58,7 +58,7 @@ enum DivStmtType {
 };
 
 /// The form of a PERFORM statement.
-enum PerformStmtType {
+enum PerformStmtType : int32_t {
   PFM_STMT_NONE = 0,
   PFM_STMT_SIMPLE = 1,
   PFM_STMT_TIMES = 2,
@@ -68,14 +68,14 @@ enum PerformStmtType {
 };
 
 /// Serial SEARCH or binary SEARCH ALL.
-enum SearchStmtType {
+enum SearchStmtType : int32_t {
   SRCH_STMT_NONE = 0,
   SRCH_STMT_SERIAL = 1,
   SRCH_STMT_BINARY = 2,
 };
 
 /// What an EVALUATE subject is.
-enum EvalSubType {
+enum EvalSubType : int32_t {
   EVAL_SUB_NONE = 0,
   EVAL_SUB_TRUE = 1,
   EVAL_SUB_FALSE = 2,
@@ -84,7 +84,7 @@ enum EvalSubType {
 };
 
 /// What an object of an EVALUATE WHEN phrase is.
-enum EvalObjectType {
+enum EvalObjectType : int32_t {
   EVAL_OBJ_NONE = 0,
   EVAL_OBJ_ANY = 1,
   EVAL_OBJ_TRUE = 2,
@@ -94,14 +94,14 @@ enum EvalObjectType {
 };
 
 /// Whether an EVALUATE case is a WHEN group or the WHEN OTHER case.
-enum EvalWhenType {
+enum EvalWhenType : int32_t {
   EVAL_WHEN_NONE = 0,
   EVAL_WHEN_WHEN = 1,
   EVAL_WHEN_OTHER = 2,
 };
 
 /// The category named by an INITIALIZE REPLACING item.
-enum InitReplType {
+enum InitReplType : int32_t {
   INIT_NONE = 0,
   INIT_ALPHABETIC = 1,
   INIT_ALPHANUMERIC = 2,
@@ -116,7 +116,7 @@ enum InitReplType {
 };
 
 /// The form of one SET item: TO, UP BY or DOWN BY.
-enum SetItemType {
+enum SetItemType : int32_t {
   SET_ITEM_NONE = 0,
   SET_ITEM_UP_BY = 1,
   SET_ITEM_DOWN_BY = 2,
@@ -125,14 +125,14 @@ enum SetItemType {
 
 /// How the parameters of a USING phrase (procedure division, ENTRY) are
 /// passed.
-enum ParamType {
+enum ParamType : int32_t {
   PARAM_NONE = 0,
   PARAM_REFERENCE = 1,
   PARAM_VALUE = 2,
 };
 
 /// How the arguments of a CALL ... USING group are passed.
-enum UsingType {
+enum UsingType : int32_t {
   USING_NONE = 0,
   USING_REFERENCE = 1,
   USING_CONTENT = 2,
@@ -140,7 +140,7 @@ enum UsingType {
 };
 
 /// Which kind of procedure a USE statement declares.
-enum UseStatementType {
+enum UseStatementType : int32_t {
   USE_STMT_NONE = 0,
   /// USE AFTER STANDARD ERROR/EXCEPTION PROCEDURE ON files or open modes.
   USE_STMT_EXCEPTION = 1,

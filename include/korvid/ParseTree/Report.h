@@ -21,7 +21,7 @@ namespace korvid {
 //===----------------------------------------------------------------------===//
 
 /// The group type written in a TYPE clause.
-enum RptTypeOption {
+enum RptTypeOption : int32_t {
   RPT_TYPE_NONE = 0,
   /// REPORT HEADING.
   RPT_TYPE_RH = 1,
@@ -40,7 +40,7 @@ enum RptTypeOption {
 };
 
 /// The form of a PRESENT AFTER clause.
-enum RptPresentAfterType {
+enum RptPresentAfterType : int32_t {
   RPT_AFT_NONE = 0,
   RPT_AFT_PRESENT_AFTER = 1,
   RPT_AFT_ABSENT_AFTER = 2,
@@ -50,7 +50,7 @@ enum RptPresentAfterType {
 };
 
 /// The form of a PRESENT WHEN clause.
-enum RptPresentWhenType {
+enum RptPresentWhenType : int32_t {
   RPT_WHEN_NONE = 0,
   RPT_WHEN_PRESENT_WHEN = 1,
   RPT_WHEN_ABSENT_WHEN = 2,
@@ -61,7 +61,7 @@ enum RptPresentWhenType {
 };
 
 /// The form of the STEP / WIDTH / DEPTH phrase of a report OCCURS clause.
-enum RptOccursType {
+enum RptOccursType : int32_t {
   RPT_OCC_NONE = 0,
   RPT_OCC_STEP_NONE = 1,
   RPT_OCC_STEP_LINES = 2,
@@ -75,7 +75,7 @@ enum RptOccursType {
 };
 
 /// Which part of a SOURCE operand is filled.
-enum RptSourceExprType {
+enum RptSourceExprType : int32_t {
   RPT_SRC_NONE = 0,
   /// A plain expression (getExpr()).
   RPT_SRC_EXPR = 1,

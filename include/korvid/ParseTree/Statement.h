@@ -15,7 +15,7 @@
 namespace korvid {
 
 /// Which statement class a Statement is.
-enum StatementType {
+enum StatementType : int32_t {
   STMT_NONE = 0,
   STMT_ACCEPT = 1,
   STMT_ADD = 2,
@@ -83,7 +83,7 @@ enum StatementType {
 };
 
 /// The exception phrases a statement can carry (ON SIZE ERROR, AT END, ...).
-enum ExceptionType {
+enum ExceptionType : int32_t {
   EXCEPTION_NONE = 0,
   EXCEPTION_ON = 1,
   EXCEPTION_SIZE = 2,

@@ -25,7 +25,7 @@ namespace korvid {
 //===----------------------------------------------------------------------===//
 
 /// Where ACCEPT takes its value from.
-enum AcceptFromType {
+enum AcceptFromType : int32_t {
   ACCEPT_FROM_NONE = 0,
   ACCEPT_FROM_ENVIRONMENT_NAME = 1,
   ACCEPT_FROM_DATE = 2,
@@ -35,7 +35,7 @@ enum AcceptFromType {
 };
 
 /// The open mode of one OPEN item.
-enum OpenStmtType {
+enum OpenStmtType : int32_t {
   OPEN_STMT_NONE = 0,
   OPEN_STMT_INPUT = 1,
   OPEN_STMT_OUTPUT = 2,
@@ -44,7 +44,7 @@ enum OpenStmtType {
 };
 
 /// The relational operator of the KEY phrase of START.
-enum StartKeyType {
+enum StartKeyType : int32_t {
   KEY_OP_NONE = 0,
   KEY_OP_EQ = 1,
   KEY_OP_GT = 2,
@@ -54,14 +54,14 @@ enum StartKeyType {
 };
 
 /// Whether an INSPECT region is a BEFORE or an AFTER phrase.
-enum InspRegType {
+enum InspRegType : int32_t {
   INSP_REG_NONE = 0,
   INSP_REG_BEFORE = 1,
   INSP_REG_AFTER = 2,
 };
 
 /// What a REPLACING clause of INSPECT replaces.
-enum InspReplType {
+enum InspReplType : int32_t {
   INSP_REPL_NONE = 0,
   INSP_REPL_CHARACTERS = 1,
   INSP_REPL_ALL = 2,
@@ -70,7 +70,7 @@ enum InspReplType {
 };
 
 /// What a TALLYING ... FOR clause of INSPECT counts.
-enum InspTailType {
+enum InspTailType : int32_t {
   INSP_TAIL_NONE = 0,
   INSP_TAIL_CHARACTERS = 1,
   INSP_TAIL_ALL = 2,
@@ -78,14 +78,14 @@ enum InspTailType {
 };
 
 /// How a STRING item is delimited: by an operand, or BY SIZE.
-enum StringDeliType {
+enum StringDeliType : int32_t {
   STR_DEL_NONE = 0,
   STR_DEL_SIMPLE = 1,
   STR_DEL_SIZE = 2,
 };
 
 /// The kind of an embedded EXEC block (mirrors its StatementType).
-enum ExecStmtType {
+enum ExecStmtType : int32_t {
   EXEC_STMT_NONE = 0,
   EXEC_STMT_SQL = 1,
   EXEC_STMT_SQL_INCLUDE = 2,
@@ -94,7 +94,7 @@ enum ExecStmtType {
 
 /// How XML GENERATE writes elementary items: WITH ATTRIBUTES asks for
 /// attributes; ELEMENT and CONTENT are the other placements an item can get.
-enum AttributeOptionType {
+enum AttributeOptionType : int32_t {
   ATTRIBUTE_OPTION_NONE = 0,
   ATTRIBUTE_OPTION_ATTRIBUTE = 1,
   ATTRIBUTE_OPTION_ELEMENT = 2,
