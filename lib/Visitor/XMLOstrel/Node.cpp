@@ -22,10 +22,10 @@ void XMLOstrel::visit(Word *W) {
 void XMLOstrel::visit(QualifiedWord *Q) {
   XMLElement *Own = Handler->newRetElement("QUALIFIED");
   std::string Text;
-  if (Word *Rear = Q->getRearWord())
-    Text = Rear->getWordDataOrg();
-  for (QualifiedWord *F = Q->getFrontWord(); F; F = F->getFrontWord())
-    Text = F->getRearWord() ? F->getRearWord()->getWordDataOrg() : std::string();
+  for (QualifiedWord *F = Q; F; F = F->getFrontWord()) {
+    Word *Rear = F->getRearWord();
+    Text = Rear ? Rear->getWordDataOrg() : std::string();
+  }
   Handler->appendChildLast(Handler->newText(Text.c_str()), Own);
   Handler->setRetElement(Own);
 }
