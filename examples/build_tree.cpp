@@ -19,6 +19,20 @@
 
 using namespace korvid;
 
+/// IDENTIFICATION DIVISION at line \p Line, PROGRAM-ID. NAME on the next.
+static IdentificationDivision *programId(Program &P, const std::string &File,
+                                         uint32_t Line, const std::string &Name) {
+  auto *Id = P.create<IdentificationDivision>();
+  Id->setLocation(P.range(File, Line, 8, Line + 1, 20 + Name.size()));
+  auto *Para = P.create<ProgramIdParagraph>();
+  Para->setLocation(P.range(File, Line + 1, 8, Line + 1, 20 + Name.size()));
+  auto *NameWord = P.create<Word>(Name, Name);
+  NameWord->setLocation(P.range(File, Line + 1, 20, Line + 1, 19 + Name.size()));
+  Para->setProgramNameWord(NameWord);
+  Id->setProgramIDPara(Para);
+  return Id;
+}
+
 int main(int argc, char **argv) {
   std::string Dir = argc > 1 ? argv[1] : ".";
   std::error_code Err;
@@ -38,9 +52,7 @@ int main(int argc, char **argv) {
 
   auto *Unit = P.create<SourceUnit>();
   At(Unit, 1, 8, 13, 25);
-  auto *Id = P.create<IdentificationDivision>();
-  At(Id, 1, 8, 2, 25);
-  Unit->setIDDivision(Id);
+  Unit->setIDDivision(programId(P, Main, 1, "HELLO"));
 
   // The data division holds text copied from GREETING.cpy: in the expanded
   // source it is line 5; as written, line 1 of the copybook.
@@ -56,9 +68,7 @@ int main(int argc, char **argv) {
 
   auto *Inner = P.create<SourceUnit>();
   At(Inner, 10, 8, 12, 25);
-  auto *InnerId = P.create<IdentificationDivision>();
-  At(InnerId, 10, 8, 11, 25);
-  Inner->setIDDivision(InnerId);
+  Inner->setIDDivision(programId(P, Main, 10, "INNER"));
   Unit->addNested(Inner);
   P.addSourceUnit(Unit);
 

@@ -45,11 +45,14 @@ struct SampleTree : TreeBuilder {
 
     Outer = at<SourceUnit>(1, 8, 40, 20);
     Outer->setIDDivision(at<IdentificationDivision>(1, 8, 2, 20));
+    Outer->getIDDivision()->setProgramIDPara(at<ProgramIdParagraph>(2, 8, 2, 20));
     Data = copied(at<DataDivision>(10, 8, 15, 30), "COPY1.cpy", 1, 8, 6, 30);
     Outer->setDataDivision(Data);
     Outer->setProcDiv(at<ProcedureDivision>(20, 8, 28, 20));
     Inner = at<SourceUnit>(30, 8, 39, 20);
     Inner->setIDDivision(at<IdentificationDivision>(30, 8, 31, 20));
+    Inner->getIDDivision()->setProgramIDPara(
+        at<ProgramIdParagraph>(31, 8, 31, 20));
     Outer->addNested(Inner);
     P.addSourceUnit(Outer);
     P.addSourceUnit(nullptr); // null units are skipped
