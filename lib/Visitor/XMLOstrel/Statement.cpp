@@ -1,4 +1,4 @@
-//===- Statement.cpp - Statements -------------===//
+//===- Statement.cpp - The statement dispatch and every statement ---------===//
 
 #include "korvid/XMLOstrel.h"
 #include "korvid/ParseTree.h"
@@ -778,6 +778,688 @@ void XMLOstrel::visit(SetToValue *V) {
   XMLElement *Own = Handler->newRetElement("SENDING");
   appendNodeChild(Own, V->getToExpr());
   Handler->setRetElement(Own);
+}
+
+//===----------------------------------------------------------------------===//
+// SEARCH
+//===----------------------------------------------------------------------===//
+
+// SEARCH ALL is told from a serial SEARCH only by its ALL word; the
+// statement's own serial/binary kind is not written.
+void XMLOstrel::visit(SearchStatement *S) {
+  XMLElement *Own = Handler->newRetElement("SEARCH_STATEMENT");
+  if (Word *All = S->getAllWord())
+    appendTextChild(Own, "ALL", All, "TRUE");
+  appendWrappedChild(Own, "TABLE", S->getSearchIdentifier());
+  appendWrappedChild(Own, "VARYING", S->getVaryingIdentifier());
+  appendListChild(Own, "WHEN_LIST", "SrchWhenList", S->getWhenListSize(),
+                  S->getWhenListBegin(), S->getWhenListEnd());
+  appendListChild(Own, "EXCEPTION_LIST", "ExcpList", S->getAtHandlerSize(),
+                  S->getAtHandlerBegin(), S->getAtHandlerEnd());
+  Handler->setRetElement(Own);
+}
+
+// The condition comes before the statements here, unlike IF.
+void XMLOstrel::visit(SearchWhen *W) {
+  XMLElement *Own = Handler->newRetElement("WHEN");
+  appendWrappedChild(Own, "CONDITION", W->getCondition());
+  for (auto I = W->getStatementListBegin(), E = W->getStatementListEnd();
+       I != E; ++I)
+    if (isWritten(*I))
+      appendNodeChild(Own, *I);
+  Handler->setRetElement(Own);
+}
+
+//===----------------------------------------------------------------------===//
+// INSPECT
+//===----------------------------------------------------------------------===//
+
+void XMLOstrel::visit(InspectStatement *S) {
+  XMLElement *Own = Handler->newRetElement("INSPECT_STATEMENT");
+  appendWrappedChild(Own, "SOURCE", S->getIdentifier());
+  appendListChild(Own, "TALLYING_LIST", "TallyingItemList",
+                  S->getTallyingListSize(), S->getTallyingListBegin(),
+                  S->getTallyingListEnd());
+  appendListChild(Own, "REPLACING_LIST", "RplcItemList",
+                  S->getReplacingListSize(), S->getReplacingListBegin(),
+                  S->getReplacingListEnd());
+  // The converting item's own element is CONVERTING too: the phrase comes
+  // out as CONVERTING inside CONVERTING.
+  appendWrappedChild(Own, "CONVERTING", S->getConverting());
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(TallyingItem *T) {
+  XMLElement *Own = Handler->newRetElement("TALLYING_ITEM");
+  appendWrappedChild(Own, "SOURCE", T->getIdentifier());
+  appendListChild(Own, "TALLYING_ITEM_FOR_LIST", "TallyingItemForList",
+                  T->getTallyingForListSize(), T->getTallyingForListBegin(),
+                  T->getTallyingForListEnd());
+  Handler->setRetElement(Own);
+}
+
+// The kind of clause is the CHARACTERS, ALL or LEADING word as written, not
+// the parsed kind.
+void XMLOstrel::visit(TallyingItemFor *F) {
+  XMLElement *Own = Handler->newRetElement("TALLYING_ITEM_FOR");
+  appendWordChild(Own, "TYPE", F->getTypeWord());
+  appendListChild(Own, "INSPECT_REGION_LIST", "InspctRgnList",
+                  F->getInspectRegionListSize(),
+                  F->getInspectRegionListBegin(),
+                  F->getInspectRegionListEnd());
+  appendListChild(Own, "TALLYING_REGION_LIST", "TallyingRgnList",
+                  F->getTallyingRegionListSize(),
+                  F->getTallyingRegionListBegin(),
+                  F->getTallyingRegionListEnd());
+  Handler->setRetElement(Own);
+}
+
+// Unlike every other region container, this one is tagged INSPECT_REGION
+// (without _LIST), under the same list name.
+void XMLOstrel::visit(TallyingRegion *R) {
+  XMLElement *Own = Handler->newRetElement("TALLYING_REGION");
+  appendWrappedChild(Own, "SOURCE", R->getExpr());
+  appendListChild(Own, "INSPECT_REGION", "InspctRgnList",
+                  R->getRegionPhraseListSize(), R->getRegionPhraseListBegin(),
+                  R->getRegionPhraseListEnd());
+  Handler->setRetElement(Own);
+}
+
+// A replacing clause writes no kind (CHARACTERS, ALL, LEADING, FIRST).
+void XMLOstrel::visit(ReplacingItem *R) {
+  XMLElement *Own = Handler->newRetElement("REPLACING_ITEM");
+  appendWrappedChild(Own, "SOURCE", R->getExpr());
+  appendListChild(Own, "INSPECT_REGION_LIST", "InspctRgnList",
+                  R->getInspectRegionListSize(),
+                  R->getInspectRegionListBegin(),
+                  R->getInspectRegionListEnd());
+  appendListChild(Own, "REPLACING_REGION_LIST", "RplcRgnList",
+                  R->getReplacingRegionListSize(),
+                  R->getReplacingRegionListBegin(),
+                  R->getReplacingRegionListEnd());
+  Handler->setRetElement(Own);
+}
+
+// The BY operand is written under TO.
+void XMLOstrel::visit(ReplacingRegion *R) {
+  XMLElement *Own = Handler->newRetElement("REPLACING_REGION");
+  appendWrappedChild(Own, "FROM", R->getExpr());
+  appendWrappedChild(Own, "TO", R->getByExpr());
+  appendListChild(Own, "INSPECT_REGION_LIST", "InspctRgnList",
+                  R->getRegionListSize(), R->getRegionListBegin(),
+                  R->getRegionListEnd());
+  Handler->setRetElement(Own);
+}
+
+// The regions come first here, before the operands; the TO word is written
+// bare, not wrapped.
+void XMLOstrel::visit(ConvertingItem *C) {
+  XMLElement *Own = Handler->newRetElement("CONVERTING");
+  appendListChild(Own, "INSPECT_REGION_LIST", "InspctRgnList",
+                  C->getRegionListSize(), C->getRegionListBegin(),
+                  C->getRegionListEnd());
+  appendWrappedChild(Own, "FROM", C->getExpr());
+  appendWrappedChild(Own, "TO", C->getToExpr());
+  appendNodeChild(Own, C->getToWord());
+  Handler->setRetElement(Own);
+}
+
+// BEFORE or AFTER is the keyword as written, not the parsed kind.
+void XMLOstrel::visit(InspectRegion *R) {
+  XMLElement *Own = Handler->newRetElement("INSPECT_REGION_ENTRY");
+  appendWrappedChild(Own, "SOURCE", R->getExpr());
+  appendWordChild(Own, "TYPE", R->getTypeWord());
+  Handler->setRetElement(Own);
+}
+
+//===----------------------------------------------------------------------===//
+// STRING and UNSTRING
+//===----------------------------------------------------------------------===//
+
+// The STRING_SOURCE items stand directly under the statement.
+void XMLOstrel::visit(StringStatement *S) {
+  XMLElement *Own = Handler->newRetElement("STRING_STATEMENT");
+  for (auto I = S->getItemListBegin(), E = S->getItemListEnd(); I != E; ++I)
+    appendNodeChild(Own, *I);
+  appendWrappedChild(Own, "INTO", S->getIntoIdentifier());
+  if (PointerPhrase *P = S->getPointerPhrase())
+    appendWrappedChild(Own, "WITH_POINTER", P->getWithPointerIdentifier());
+  appendListChild(Own, "EXCEPTION_LIST", "ExcpList",
+                  S->getOverflowHandlerSize(), S->getOverflowHandlerBegin(),
+                  S->getOverflowHandlerEnd());
+  Handler->setRetElement(Own);
+}
+
+// The delimiter kind is decided by which keyword word is present; a SIZE
+// word wins over a DELIMITED word.
+void XMLOstrel::visit(StringItem *I) {
+  XMLElement *Own = Handler->newRetElement("STRING_SOURCE");
+  if (Word *Size = I->getSizeWord())
+    appendTextChild(Own, "DELIMITED_TYPE", Size, "SIZE");
+  else if (Word *Delimited = I->getDelimitedWord())
+    appendTextChild(Own, "DELIMITED_TYPE", Delimited, "NORMAL");
+  appendListChild(Own, "SOURCE", "ExprList", I->getStringNameListSize(),
+                  I->getStringNameListBegin(), I->getStringNameListEnd());
+  appendWrappedChild(Own, "DELIMITER", I->getDelimitedName());
+  Handler->setRetElement(Own);
+}
+
+// Delimiters and receivers stand directly under the statement. The
+// tallying phrase is read here; its own visit is not used.
+void XMLOstrel::visit(UnstringStatement *S) {
+  XMLElement *Own = Handler->newRetElement("UNSTRING_STATEMENT");
+  appendWrappedChild(Own, "SOURCE", S->getSourceIdentifier());
+  if (UnstringDelemitedPhrase *D = S->getDelemitedPhrase())
+    if (D->getDelimiterListSize() != 0)
+      for (auto I = D->getDelimiterListBegin(), E = D->getDelimiterListEnd();
+           I != E; ++I)
+        appendNodeChild(Own, *I);
+  for (auto I = S->getIntoListBegin(), E = S->getIntoListEnd(); I != E; ++I)
+    appendNodeChild(Own, *I);
+  if (PointerPhrase *P = S->getPhrasePointer())
+    appendWrappedChild(Own, "WITH_POINTER", P->getWithPointerIdentifier());
+  if (UnstringTallyingPhrase *T = S->getPhraseTallying())
+    appendWrappedChild(Own, "TALLYING_IN", T->getTallyingId());
+  appendListChild(Own, "EXCEPTION_LIST", "ExcpList",
+                  S->getOverflowHandlerSize(), S->getOverflowHandlerBegin(),
+                  S->getOverflowHandlerEnd());
+  Handler->setRetElement(Own);
+}
+
+// The ALL flag carries the delimiter's location, not the ALL keyword's.
+void XMLOstrel::visit(UnstringDelimitedItem *D) {
+  XMLElement *Own = Handler->newRetElement("DELIMITER");
+  Expression *Delimiter = D->getDelimiter();
+  appendNodeChild(Own, Delimiter);
+  if (D->getAllWord() && Delimiter)
+    appendTextChild(Own, "ALL", Delimiter, "TRUE");
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(UnstringIntoItem *I) {
+  XMLElement *Own = Handler->newRetElement("INTO");
+  appendWrappedChild(Own, "TARGET", I->getTargetIdentifier());
+  appendWrappedChild(Own, "DELIMITER", I->getDelimiter());
+  appendWrappedChild(Own, "COUNT", I->getCountIdentifier());
+  Handler->setRetElement(Own);
+}
+
+// Only callers other than UNSTRING reach this; the tag keeps its mixed case.
+void XMLOstrel::visit(UnstringTallyingPhrase *T) {
+  XMLElement *Own = Handler->newRetElement("UnstringTallyingPhrase");
+  appendNodeChild(Own, T->getTallyingId());
+  appendNodeChild(Own, T->getTallyingWord());
+  appendNodeChild(Own, T->getInWord());
+  Handler->setRetElement(Own);
+}
+
+//===----------------------------------------------------------------------===//
+// File input-output statements
+//===----------------------------------------------------------------------===//
+
+// Open items stand directly under the statement, with no container.
+void XMLOstrel::visit(OpenStatement *S) {
+  XMLElement *Own = Handler->newRetElement("OPEN_STATEMENT");
+  for (auto I = S->getItemListBegin(), E = S->getItemListEnd(); I != E; ++I)
+    appendNodeChild(Own, *I);
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(OpenItem *O) {
+  XMLElement *Own = Handler->newRetElement("OPEN_FILE_ENTRY");
+  const char *Mode = "";
+  Word *ModeWord = nullptr;
+  switch (O->getType()) {
+  case OPEN_STMT_INPUT:
+    Mode = "INPUT";
+    ModeWord = O->getInputWord();
+    break;
+  case OPEN_STMT_OUTPUT:
+    Mode = "OUTPUT";
+    ModeWord = O->getOutputWord();
+    break;
+  case OPEN_STMT_IO:
+    Mode = "IO";
+    ModeWord = O->getIOWord();
+    break;
+  case OPEN_STMT_EXTEND:
+    Mode = "EXTEND";
+    ModeWord = O->getExtendWord();
+    break;
+  default:
+    assert(0 && "impossible");
+  }
+  // A missing mode keyword leaves out MODE; the files are still written.
+  if (ModeWord)
+    appendTextChild(Own, "MODE", ModeWord, Mode);
+  for (auto I = O->getFileListBegin(), E = O->getFileListEnd(); I != E; ++I)
+    appendNodeChild(Own, *I);
+  Handler->setRetElement(Own);
+}
+
+// OPEN calls its rewind flag NO_REWIND, where CLOSE says REWIND.
+void XMLOstrel::visit(OpenFile *F) {
+  XMLElement *Own = Handler->newRetElement("FILE_ENTRY");
+  appendWordChild(Own, "FILE_NAME", F->getFileName());
+  if (Word *Reversed = F->getReversedWord())
+    appendTextChild(Own, "RESERVED", Reversed, "TRUE");
+  if (Word *Rewind = F->getRewindWord())
+    appendTextChild(Own, "NO_REWIND", Rewind, "TRUE");
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(CloseStatement *S) {
+  XMLElement *Own = Handler->newRetElement("CLOSE_STATEMENT");
+  for (auto I = S->getCloseFileListBegin(), E = S->getCloseFileListEnd();
+       I != E; ++I)
+    appendNodeChild(Own, *I);
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(CloseFile *F) {
+  XMLElement *Own = Handler->newRetElement("CLOSE_FILE_ENTRY");
+  appendWordChild(Own, "FILE_NAME", F->getFileName());
+  if (Word *W = F->getReelWord())
+    appendTextChild(Own, "REEL", W, "TRUE");
+  if (Word *W = F->getUnitWord())
+    appendTextChild(Own, "UNIT", W, "TRUE");
+  if (Word *W = F->getLockWord())
+    appendTextChild(Own, "LOCK", W, "TRUE");
+  if (Word *W = F->getRewindWord())
+    appendTextChild(Own, "REWIND", W, "TRUE");
+  if (Word *W = F->getRemovalWord())
+    appendTextChild(Own, "REMOVAL", W, "TRUE");
+  Handler->setRetElement(Own);
+}
+
+// The NEXT RECORD phrase has no element of its own: only its NEXT word is
+// written, as a flag.
+void XMLOstrel::visit(ReadStatement *S) {
+  XMLElement *Own = Handler->newRetElement("READ_STATEMENT");
+  appendWordChild(Own, "FILE_NAME", S->getFileName());
+  appendWrappedChild(Own, "INTO", S->getIntoIdentifier());
+  if (ReadRecordItem *R = S->getRecordItem())
+    if (Word *Next = R->getNextWord())
+      appendTextChild(Own, "NEXT", Next, "TRUE");
+  appendNodeChild(Own, S->getKeyPhrase());
+  appendListChild(Own, "EXCEPTION_LIST", "ExcpList", S->getErrorListSize(),
+                  S->getErrorListBegin(), S->getErrorListEnd());
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(ReadKeyPhrase *K) {
+  XMLElement *Own = Handler->newRetElement("KEY");
+  appendNodeChild(Own, K->getKeyName());
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(WriteStatement *S) {
+  XMLElement *Own = Handler->newRetElement("WRITE_STATEMENT");
+  appendWrappedChild(Own, "RECORD", S->getRecordName());
+  appendWrappedChild(Own, "FROM", S->getFromIdentifier());
+  appendNodeChild(Own, S->getAdvancing());
+  appendListChild(Own, "EXCEPTION_LIST", "ExcpList",
+                  S->getExceptionHandlerListSize(),
+                  S->getExceptionHandlerListBegin(),
+                  S->getExceptionHandlerListEnd());
+  Handler->setRetElement(Own);
+}
+
+// With both LINE and PAGE words present, two TYPE elements are written.
+void XMLOstrel::visit(WriteAdvancing *A) {
+  XMLElement *Own = Handler->newRetElement("ADVANCING");
+  appendWrappedChild(Own, "ADVANCING_VALUE", A->getValue());
+  appendWordChild(Own, "TIMING", A->getBeforeAfterWord());
+  if (Word *Line = A->getLineWord())
+    appendTextChild(Own, "TYPE", Line, "LINE");
+  if (Word *Page = A->getPageWord())
+    appendTextChild(Own, "TYPE", Page, "PAGE");
+  Handler->setRetElement(Own);
+}
+
+// REWRITE wraps its record as RECORD_NAME, where WRITE says RECORD.
+void XMLOstrel::visit(RewriteStatement *S) {
+  XMLElement *Own = Handler->newRetElement("REWRITE_STATEMENT");
+  appendWrappedChild(Own, "RECORD_NAME", S->getRecordName());
+  appendWrappedChild(Own, "FROM", S->getFromIdentifier());
+  appendListChild(Own, "EXCEPTION_LIST", "ExcpList",
+                  S->getInvalidKeyHandlerSize(),
+                  S->getInvalidKeyHandlerBegin(),
+                  S->getInvalidKeyHandlerEnd());
+  Handler->setRetElement(Own);
+}
+
+// The exception list goes in before the file name, and the name is tagged
+// FILE rather than FILE_NAME.
+void XMLOstrel::visit(DeleteStatement *S) {
+  XMLElement *Own = Handler->newRetElement("DELETE_STATEMENT");
+  appendListChild(Own, "EXCEPTION_LIST", "ExcpList",
+                  S->getInvalidKeyHandlerSize(),
+                  S->getInvalidKeyHandlerBegin(),
+                  S->getInvalidKeyHandlerEnd());
+  appendWordChild(Own, "FILE", S->getFileName());
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(StartStatement *S) {
+  XMLElement *Own = Handler->newRetElement("START_STATEMENT");
+  appendWordChild(Own, "FILE_NAME", S->getFileName());
+  appendNodeChild(Own, S->getKey());
+  appendListChild(Own, "EXCEPTION_LIST", "ExcpList",
+                  S->getInvalidKeyHandlerSize(),
+                  S->getInvalidKeyHandlerBegin(),
+                  S->getInvalidKeyHandlerEnd());
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(StartKey *K) {
+  XMLElement *Own = Handler->newRetElement("START_CONDITION");
+  const char *Op = "";
+  switch (K->getType()) {
+  case KEY_OP_EQ:
+    Op = "EQ";
+    break;
+  case KEY_OP_GT:
+    Op = "GT";
+    break;
+  case KEY_OP_GE:
+    Op = "GE";
+    break;
+  case KEY_OP_LT:
+    Op = "LT";
+    break;
+  case KEY_OP_LE:
+    Op = "LE";
+    break;
+  default:
+    assert(0 && "impossible");
+  }
+  // No operator word is kept, so the operator carries the key's location.
+  appendTextChild(Own, "KEY_COND", K, Op);
+  appendWrappedChild(Own, "DATA_NAME", K->getDataName());
+  Handler->setRetElement(Own);
+}
+
+//===----------------------------------------------------------------------===//
+// ACCEPT and DISPLAY
+//===----------------------------------------------------------------------===//
+
+void XMLOstrel::visit(AcceptStatement *S) {
+  XMLElement *Own = Handler->newRetElement("ACCEPT_STATEMENT");
+  appendWrappedChild(Own, "RECEIVING", S->getVariable());
+  appendNodeChild(Own, S->getFromType());
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(AcceptFrom *F) {
+  XMLElement *Own = Handler->newRetElement("ACCEPT_FROM");
+  // The date format joins the type in its normalised spelling, and only for
+  // DATE and DAY.
+  std::string Suffix;
+  if (Word *Format = F->getDateFormat())
+    Suffix = "_" + Format->getWordData();
+  std::string Type;
+  Word *Keyword = nullptr;
+  switch (F->getType()) {
+  case ACCEPT_FROM_ENVIRONMENT_NAME:
+    Type = "MNEMONIC";
+    Keyword = F->getFromName();
+    break;
+  case ACCEPT_FROM_DATE:
+    Type = "DATE" + Suffix;
+    Keyword = F->getDateWord();
+    break;
+  case ACCEPT_FROM_DAY:
+    Type = "DAY" + Suffix;
+    Keyword = F->getDateWord();
+    break;
+  case ACCEPT_FROM_DAY_OF_WEEK:
+    Type = "DAY_OF_WEEK";
+    Keyword = F->getDateWord();
+    break;
+  case ACCEPT_FROM_TIME:
+    // TIME is put in front of the type text built so far, which is still
+    // empty: the result is plain TIME, whatever the date format.
+    Type = "TIME" + Type;
+    Keyword = F->getDateWord();
+    break;
+  default:
+    assert(0 && "impossible");
+  }
+  // TYPE is always written; without its keyword word it takes the location
+  // of the whole FROM phrase.
+  appendTextChild(Own, "TYPE", Keyword ? static_cast<Node *>(Keyword) : F,
+                  Type.c_str());
+  appendWordChild(Own, "VALUE", F->getFromName());
+  Handler->setRetElement(Own);
+}
+
+// The container of all displayed items is tagged in the singular.
+void XMLOstrel::visit(DisplayStatement *S) {
+  XMLElement *Own = Handler->newRetElement("DISPLAY_STATEMENT");
+  appendListChild(Own, "DISPLAY_ITEM", "ExprList", S->getIdenLiterListSize(),
+                  S->getIdenLiterListBegin(), S->getIdenLiterListEnd());
+  appendWordChild(Own, "UPON", S->getUponName());
+  Handler->setRetElement(Own);
+}
+
+//===----------------------------------------------------------------------===//
+// SORT, MERGE, RELEASE, RETURN
+//===----------------------------------------------------------------------===//
+
+// SORT's key container is tagged MERGE_KEY_LIST, as MERGE's is.
+void XMLOstrel::visit(SortStatement *S) {
+  XMLElement *Own = Handler->newRetElement("SORT_STATEMENT");
+  appendWordChild(Own, "FILE_NAME", S->getFileName());
+  if (SortDuplicates *D = S->getSortDuplicates())
+    appendTextChild(Own, "DUPLICATE", D, "TRUE");
+  appendListChild(Own, "MERGE_KEY_LIST", "SrtKeyList", S->getKeyListSize(),
+                  S->getKeyListBegin(), S->getKeyListEnd());
+  if (SortCollating *C = S->getSortCollating())
+    appendWordChild(Own, "COLLATING_SEQUENCE", C->getSeqAlphaName());
+  appendNodeChild(Own, S->getInput());
+  appendNodeChild(Own, S->getOutput());
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(MergeStatement *S) {
+  XMLElement *Own = Handler->newRetElement("MERGE_STATEMENT");
+  appendWordChild(Own, "FILE_NAME", S->getFileName());
+  appendListChild(Own, "MERGE_KEY_LIST", "SrtKeyList", S->getKeySeqSize(),
+                  S->getKeySeqBegin(), S->getKeySeqEnd());
+  if (SortCollating *C = S->getSortCollating())
+    appendWordChild(Own, "COLLATING_SEQUENCE", C->getSeqAlphaName());
+  appendNodeChild(Own, S->getInput());
+  appendNodeChild(Own, S->getOutput());
+  Handler->setRetElement(Own);
+}
+
+// The key order is the ASCENDING or DESCENDING word as written.
+void XMLOstrel::visit(SortKey *K) {
+  XMLElement *Own = Handler->newRetElement("KEY");
+  appendWordChild(Own, "SORT_TYPE", K->getAscDscWord());
+  appendListChild(Own, "KEY_ITEM_LIST", "ExprList", K->getKeyNameListSize(),
+                  K->getKeyNameListBegin(), K->getKeyNameListEnd());
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(SortIO *IO) {
+  bool IsInput = false;
+  bool UsingGiving = false;
+  if (Word *W = IO->getIOWord()) {
+    IsInput = W->getWordData() == "INPUT";
+  } else if (Word *W = IO->getUsingGivingWord()) {
+    IsInput = W->getWordData() == "USING";
+    UsingGiving = true;
+  }
+  XMLElement *Own = Handler->newRetElement(IsInput ? "SORT_IN" : "SORT_OUT");
+  const char *TypeTag = IsInput ? "INPUT_TYPE" : "OUTPUT_TYPE";
+  // The texts are crossed on purpose: a USING or GIVING phrase says
+  // PROCEDURE (and only when a PROCEDURE word is kept as well), while an
+  // INPUT or OUTPUT PROCEDURE phrase says USING or GIVING.
+  if (UsingGiving) {
+    if (Word *Procedure = IO->getProcedureWord())
+      appendTextChild(Own, TypeTag, Procedure, "PROCEDURE");
+  } else if (Word *W = IO->getIOWord()) {
+    appendTextChild(Own, TypeTag, W, IsInput ? "USING" : "GIVING");
+  }
+  appendListChild(Own, "FILE_LIST", "WordList", IO->getFileNameSize(),
+                  IO->getFileNameBegin(), IO->getFileNameEnd());
+  appendWrappedChild(Own, "PROC_NAME", IO->getFromProcedureName());
+  appendWrappedChild(Own, "PROC_NAME_THRU", IO->getToProcedureName());
+  Handler->setRetElement(Own);
+}
+
+// RELEASE wraps its FROM identifier as RECORD_FROM, where WRITE says FROM.
+void XMLOstrel::visit(ReleaseStatement *S) {
+  XMLElement *Own = Handler->newRetElement("RELEASE_STATEMENT");
+  appendWrappedChild(Own, "RECORD_NAME", S->getRecordName());
+  appendWrappedChild(Own, "RECORD_FROM", S->getFromIdentifier());
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(ReturnStatement *S) {
+  XMLElement *Own = Handler->newRetElement("RETURN_STATEMENT");
+  appendWordChild(Own, "FILE_NAME", S->getFileName());
+  appendWrappedChild(Own, "INTO", S->getIntoIdentifier());
+  appendListChild(Own, "EXCEPTION_LIST", "ExcpList", S->getEndHandlerSize(),
+                  S->getEndHandlerBegin(), S->getEndHandlerEnd());
+  Handler->setRetElement(Own);
+}
+
+//===----------------------------------------------------------------------===//
+// XML GENERATE and XML PARSE
+//===----------------------------------------------------------------------===//
+
+void XMLOstrel::visit(XMLGenerateStatement *S) {
+  XMLElement *Own = Handler->newRetElement("XML_GENERATE_STATEMENT");
+  appendWrappedChild(Own, "RECEIVING", S->getGenIdent());
+  appendWrappedChild(Own, "FROM", S->getFromIdent());
+  if (ClauseXMLCount *C = S->getCountClause())
+    appendWrappedChild(Own, "COUNT", C->getCountIdent());
+  if (ClauseXMLEncoding *C = S->getEncodingClause())
+    appendWrappedChild(Own, "ENCODING", C->getCodePage());
+  ClauseXMLDeclaration *Declaration = S->getDeclarationClause();
+  if (Declaration)
+    appendTextChild(Own, "XML_DECLARATION", Declaration, "TRUE");
+  // ATTRIBUTES is written only together with XML-DECLARATION, and it
+  // carries the declaration's location, not its own.
+  if (S->getAttributesClause() && Declaration)
+    appendTextChild(Own, "ATTRIBUTES", Declaration, "TRUE");
+  if (ClauseXMLNameSpace *N = S->getNameSpaceClause()) {
+    appendWrappedChild(Own, "NAMESPACE", N->getNameSpaceExpr());
+    // The one tag spelled with a hyphen.
+    appendWrappedChild(Own, "NAMESPACE-PREFIX", N->getPrefixExpr());
+  }
+  appendListChild(Own, "EXCEPTION_LIST", "ExcpList", S->getOnExcpHandlerSize(),
+                  S->getOnExcpHandlerBegin(), S->getOnExcpHandlerEnd());
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(XMLParseStatement *S) {
+  XMLElement *Own = Handler->newRetElement("XML_PARSE_STATEMENT");
+  appendWrappedChild(Own, "SOURCE", S->getParseIdent());
+  if (ClauseXMLEncoding *C = S->getEncodingClause())
+    appendWrappedChild(Own, "ENCODING", C->getCodePage());
+  if (ClauseXMLReturning *R = S->getReturningClause())
+    appendTextChild(Own, "RETURNING_NATIONAL", R, "TRUE");
+  if (ClauseXMLValidating *V = S->getValidatingClause()) {
+    // An identifier wins over a file name. VALDATING_IDENT is spelled
+    // without the second I, and stays so.
+    if (IdentifierExpression *Ident = V->getValidatingIdent())
+      appendWrappedChild(Own, "VALDATING_IDENT", Ident);
+    else
+      appendWrappedChild(Own, "VALIDATING_FILE_XML_SCHEMA", V->getFileName());
+  }
+  appendWrappedChild(Own, "PROCESSING_PROCEDURE1", S->getParseProcedure());
+  appendWrappedChild(Own, "PROCESSING_PROCEDURE2", S->getThruProcedure());
+  appendListChild(Own, "EXCEPTION_LIST", "ExcpList", S->getOnExcpHandlerSize(),
+                  S->getOnExcpHandlerBegin(), S->getOnExcpHandlerEnd());
+  Handler->setRetElement(Own);
+}
+
+//===----------------------------------------------------------------------===//
+// EXEC blocks and report-writer statements
+//===----------------------------------------------------------------------===//
+
+// The content is the block's text without its closing word and without
+// everything up to and including the keyword that names the block's kind.
+// Unlike the data division's EXEC entry, this looks for the keyword, so an
+// SQL INCLUDE block loses its INCLUDE. TYPE and CONTENT carry no location.
+void XMLOstrel::visit(ExecStatement *S) {
+  XMLElement *Own = Handler->newRetElement("EXEC_STATEMENT");
+  const char *Type = "";
+  const char *Upper = "";
+  const char *Lower = "";
+  switch (S->getType()) {
+  case STMT_EXEC_SQL:
+    Type = "SQL";
+    Upper = "SQL";
+    Lower = "sql";
+    break;
+  case STMT_EXEC_SQL_INCLUDE:
+    Type = "SQL";
+    Upper = "INCLUDE";
+    Lower = "include";
+    break;
+  case STMT_EXEC_CICS:
+    Type = "CICS";
+    Upper = "CICS";
+    Lower = "cics";
+    break;
+  default:
+    assert(0 && "impossible");
+  }
+  XMLElement *TypeElement = Handler->newElement("TYPE");
+  Handler->appendChildLast(Handler->newText(Type), TypeElement);
+  Handler->appendChildLast(TypeElement, Own);
+
+  std::string Text = S->getSqlStr();
+  // From the last space on is the closing END-EXEC.
+  std::string::size_type Pos = Text.rfind(' ');
+  if (Pos != std::string::npos)
+    Text = Text.substr(0, Pos);
+  // A lower-case keyword counts only when no upper-case one occurs at all.
+  Pos = Text.find(Upper);
+  if (Pos == std::string::npos)
+    Pos = Text.find(Lower);
+  if (Pos != std::string::npos) {
+    Text = Text.substr(Pos + 1);
+    std::string::size_type Space = Text.find(' ');
+    if (Space != std::string::npos)
+      Text = Text.substr(Space + 1);
+  }
+  XMLElement *Content = Handler->newElement("CONTENT");
+  Handler->appendChildLast(Handler->newText(Text.c_str()), Content);
+  Handler->appendChildLast(Content, Own);
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(RwGenerateStatement *S) {
+  XMLElement *Own = Handler->newRetElement("REPORT_GENERATE_STATEMENT");
+  appendWrappedChild(Own, "FILE_NAME", S->getFileName());
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(RwInitiateStatement *S) {
+  XMLElement *Own = Handler->newRetElement("REPORT_INITIATE_STATEMENT");
+  appendListChild(Own, "REPORT_NAME_LIST", "WordList",
+                  S->getInitiateNameListSize(), S->getInitiateNameListBegin(),
+                  S->getInitiateNameListEnd());
+  appendWrappedChild(Own, "UPON_NAME", S->getUponName());
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(RwTerminateStatement *S) {
+  XMLElement *Own = Handler->newRetElement("REPORT_TERMINATE_STATEMENT");
+  appendListChild(Own, "REPORT_NAME_LIST", "WordList",
+                  S->getTerminateNameListSize(),
+                  S->getTerminateNameListBegin(), S->getTerminateNameListEnd());
+  Handler->setRetElement(Own);
+}
+
+void XMLOstrel::visit(RwSuppressStatement *) {
+  Handler->setRetElement(Handler->newRetElement("REPORT_SUPPRESS_STATEMENT"));
 }
 
 // Written as nothing: the statements that own these phrases and clauses
