@@ -54,17 +54,76 @@ int main(int argc, char **argv) {
   At(Unit, 1, 8, 13, 25);
   Unit->setIDDivision(programId(P, Main, 1, "HELLO"));
 
-  // The data division holds text copied from GREETING.cpy: in the expanded
-  // source it is line 5; as written, line 1 of the copybook.
+  // The data division holds an entry copied from GREETING.cpy: in the
+  // expanded source it is line 5; as written, line 1 of the copybook.
   auto *Data = P.create<DataDivision>();
   At(Data, 3, 8, 5, 58);
   Unit->setDataDivision(Data);
-  auto *Entry = P.create<Word>("GREETING-TEXT", "GREETING-TEXT");
-  Entry->setLocation(P.range(Main, 5, 12, 5, 24), P.range(Copy, 1, 12, 1, 24));
+  auto *Storage = P.create<WorkingSection>();
+  At(Storage, 4, 8, 5, 58);
+  Data->setSectionWork(Storage);
+  auto Copied = [&](Node *N, uint32_t BC, uint32_t EC) {
+    N->setLocation(P.range(Main, 5, BC, 5, EC), P.range(Copy, 1, BC, 1, EC));
+  };
+  auto *Entry = P.create<ExDataDescription>();
+  Copied(Entry, 8, 58);
+  auto *Level = P.create<Word>("01", "01");
+  Copied(Level, 8, 9);
+  auto *Name = P.create<Word>("GREETING-TEXT", "GREETING-TEXT");
+  Copied(Name, 12, 24);
+  auto *Pic = P.create<ClausePicture>();
+  Copied(Pic, 27, 35);
+  auto *PicString = P.create<Word>("X(12)", "X(12)");
+  Copied(PicString, 31, 35);
+  Pic->setCharStringWord(PicString);
+  auto *Value = P.create<ClauseValue>();
+  Copied(Value, 37, 57);
+  auto *ValuePhrase = P.create<PhraseValue>();
+  Copied(ValuePhrase, 43, 57);
+  auto *Text = P.create<NonNumericLiteralExpression>();
+  Copied(Text, 43, 56);
+  Text->setData("HELLO, WORLD");
+  ValuePhrase->setLiteral1(Text);
+  Value->addPhraseVal(ValuePhrase);
+  Entry->setLevelNum(Level);
+  Entry->setLevelNum(1);
+  Entry->setDataName(Name);
+  Entry->setPicture(Pic);
+  Entry->setValue(Value);
+  Entry->setID(1);
+  Entry->setSize(12);
+  Entry->setUsageTy(USAGE_DISPLAY);
+  Entry->setDataCategory(DC_ALPHANUMERIC);
+  Storage->addOrdered(Entry);
 
+  // DISPLAY GREETING-TEXT. STOP RUN.
   auto *Proc = P.create<ProcedureDivision>();
   At(Proc, 7, 8, 9, 20);
   Unit->setProcDiv(Proc);
+  auto *Sent1 = P.create<Sentence>(), *Sent2 = P.create<Sentence>();
+  At(Sent1, 8, 12, 8, 33);
+  At(Sent2, 9, 12, 9, 20);
+  auto *Display = P.create<DisplayStatement>();
+  At(Display, 8, 12, 8, 32);
+  auto *Ref = P.create<DataIdentifierExpression>();
+  At(Ref, 8, 20, 8, 32);
+  auto *RefName = P.create<QualifiedWord>();
+  At(RefName, 8, 20, 8, 32);
+  auto *RefWord = P.create<Word>("GREETING-TEXT", "GREETING-TEXT");
+  At(RefWord, 8, 20, 8, 32);
+  RefName->setRearWord(RefWord);
+  Ref->setName(RefName);
+  Ref->setTarget(Entry); // resolved: DATA_ID is the entry's ID
+  Display->addIdenLiter(Ref);
+  Sent1->addStmt(Display);
+  auto *Stop = P.create<StopStatement>();
+  At(Stop, 9, 12, 9, 19);
+  auto *Run = P.create<Word>("RUN", "RUN");
+  At(Run, 9, 17, 9, 19);
+  Stop->setRun(Run);
+  Sent2->addStmt(Stop);
+  Proc->addSent(Sent1);
+  Proc->addSent(Sent2);
 
   auto *Inner = P.create<SourceUnit>();
   At(Inner, 10, 8, 12, 25);

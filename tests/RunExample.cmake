@@ -17,7 +17,7 @@ foreach(doc HELLO.xml HELLO.missing.xml HELLO.errors.xml)
   endif()
 endforeach()
 file(READ ${OUT}/HELLO.xml doc)
-foreach(want "<FILEINFO NAME=\"HELLO.cbl\"" "<PROGRAM lbl=\"1\""
+foreach(want "<COPYBOOK NAME=\"GREETING.cpy\"" "<FILEINFO NAME=\"HELLO.cbl\"" "<PROGRAM lbl=\"1\"" "<NAME lbl=\"5\" lbc=\"12\" lel=\"5\" lec=\"24\" lblo=\"1\""
              "<RESOURCE NAME=\"NOWHERE\"")
   string(FIND "${doc}" "${want}" at)
   if(at EQUAL -1)
