@@ -136,7 +136,6 @@ TEST(CardDemo, EveryProgramReadsAndOnlySystemCopybooksAreMissing) {
       O.IncludeDirs.push_back((Area / Sub).string());
       O.IncludeDirs.push_back(CardDemo + "/" + Sub);
     }
-    O.CopyExtensions.push_back(".dcl");
     SourceReader R(O);
     ASSERT_TRUE(R.readFile(E.path().string())) << E.path();
     EXPECT_FALSE(R.getTokens().empty()) << E.path();

@@ -73,9 +73,11 @@ struct ReaderOptions {
   std::vector<std::string> IncludeDirs;
   /// Also search the directories of the COBCPY environment variable.
   bool UseCOBCPY = true;
-  /// Extensions tried after the name as given, in order.
-  std::vector<std::string> CopyExtensions = {".cpy", ".CPY", ".cbl", ".CBL",
-                                             ".cob", ".COB", ".copy", ".COPY"};
+  /// Extensions tried after the name as given, in order (.dcl: members
+  /// made by DCLGEN for EXEC SQL INCLUDE).
+  std::vector<std::string> CopyExtensions = {
+      ".cpy",  ".CPY",  ".cbl", ".CBL", ".cob", ".COB",
+      ".copy", ".COPY", ".dcl", ".DCL"};
   /// Encoding of files that are not UTF-8 (empty: Latin-1).
   std::string Encoding;
 };
