@@ -1,6 +1,7 @@
 //===- tests/ConditionTest.cpp - Conditions -------------------------------===//
 
 #include "TreeBuilder.h"
+#include "EmitterHarness.h"
 #include "XMLCompare.h"
 #include "korvid/XMLOstrel.h"
 
@@ -16,20 +17,8 @@ using tinyxml2::XMLElement;
 
 namespace {
 
-struct Emitter : XMLOstrel {
-  XMLHandler &handler() { return *Handler; }
-};
-
-/// The element that visiting \p N leaves in the slot, printed on its own by
-/// a fresh emitter (nobody stamps it), with or without locations.
-template <class T> std::string emitted(T *N, bool Located = false) {
-  Emitter E;
-  E.visit(N);
-  E.handler().appendElementToDoc(E.handler().getRetElement());
-  if (!Located)
-    E.handler().removeAttributeLoc();
-  return E.handler().toString();
-}
+using Emitter = korvid::test::TestEmitter;
+using korvid::test::visited;
 
 /// The operand `name` as a data identifier spanning Line:Col onwards.
 DataIdentifierExpression *dataName(TreeBuilder &T, const std::string &Text,
@@ -105,7 +94,7 @@ TEST(RelationalCondition, OperatorBetweenOperandsLocatedAtTheRightOne) {
     </DATA_IDENTIFIER>
   </RIGHT>
 </RELATIONAL_CONDITION>)",
-                      emitted(R, true)));
+                      visited(R, true)));
 
   const std::map<RelationalConditionType, const char *> Ops = {
       {REL_OP_GT, "GT"}, {REL_OP_LT, "LT"}, {REL_OP_EQ, "EQ"},
@@ -121,7 +110,7 @@ TEST(RelationalCondition, OperatorBetweenOperandsLocatedAtTheRightOne) {
   R->setRight(nullptr);
   EXPECT_EQ(children(R), "LEFT=");
   R->setLeft(nullptr);
-  EXPECT_TRUE(sameXML("<RELATIONAL_CONDITION/>", emitted(R)));
+  EXPECT_TRUE(sameXML("<RELATIONAL_CONDITION/>", visited(R)));
   R->setRight(Right);
   EXPECT_EQ(children(R), "TYPE=NE RIGHT=");
 }
@@ -154,7 +143,7 @@ TEST(ClassCondition, TestTextsNegationAndUnknownTests) {
   <NOT lbl="6" lbc="19" lel="6" lec="25" lblo="6" lbco="19" lelo="6"
        leco="25" lfid="1" lfido="1">TRUE</NOT>
 </CLASS_CONDITION>)",
-                      emitted(C, true)));
+                      visited(C, true)));
 
   // Every test, plain and negated; a user-defined class is written as the
   // fixed CLASS_NAME. An unknown test is no error: it is an empty TYPE,
@@ -189,7 +178,7 @@ TEST(ClassCondition, TestTextsNegationAndUnknownTests) {
   C->setClassWord(nullptr);
   EXPECT_EQ(children(C), "OPERAND=");
   C->setLeft(nullptr);
-  EXPECT_TRUE(sameXML("<CLASS_CONDITION/>", emitted(C)));
+  EXPECT_TRUE(sameXML("<CLASS_CONDITION/>", visited(C)));
 }
 
 TEST(SignCondition, TestTextsAndNegation) {
@@ -216,7 +205,7 @@ TEST(SignCondition, TestTextsAndNegation) {
   <NOT lbl="8" lbc="19" lel="8" lec="22" lblo="8" lbco="19" lelo="8"
        leco="22" lfid="1" lfido="1">TRUE</NOT>
 </SIGN_CONDITION>)",
-                      emitted(S, true)));
+                      visited(S, true)));
 
   const std::map<SignOperatorType, std::string> Expected = {
       {SIGN_OP_POSITIVE, "OPERAND= TYPE=POSITIVE"},
@@ -232,7 +221,7 @@ TEST(SignCondition, TestTextsAndNegation) {
   S->setSignWord(nullptr);
   EXPECT_EQ(children(S), "OPERAND=");
   S->setOperand(nullptr);
-  EXPECT_TRUE(sameXML("<SIGN_CONDITION/>", emitted(S)));
+  EXPECT_TRUE(sameXML("<SIGN_CONDITION/>", visited(S)));
 }
 
 //===----------------------------------------------------------------------===//
@@ -309,7 +298,7 @@ TEST(CombinedCondition, OperatorFirstThenLeftAndRight) {
     </RELATIONAL_CONDITION>
   </RIGHT>
 </COMB_CONDITION>)",
-                      emitted(And, true)));
+                      visited(And, true)));
 
   // Where the keyword and both operands start at the same place (one
   // replaced text, say), the order of writing shows: operator first.
@@ -328,7 +317,7 @@ TEST(CombinedCondition, OperatorFirstThenLeftAndRight) {
   EXPECT_EQ(children(Same), "LEFT= RIGHT=");
   Same->setLeft(nullptr);
   Same->setRight(nullptr);
-  EXPECT_TRUE(sameXML("<COMB_CONDITION/>", emitted(Same)));
+  EXPECT_TRUE(sameXML("<COMB_CONDITION/>", visited(Same)));
 }
 
 TEST(ConditionNesting, CombinedHoldsNegatedHoldsRelational) {
@@ -388,7 +377,7 @@ TEST(ConditionNesting, CombinedHoldsNegatedHoldsRelational) {
     </COMB_CONDITION>
   </RIGHT>
 </COMB_CONDITION>)",
-                      emitted(static_cast<Condition *>(Or))));
+                      visited(static_cast<Condition *>(Or))));
   // The wrapper of a negated operand carries the operand's location, as
   // does the operand's own element.
   Not->setOperand(relation(T, "c", REL_OP_EQ, "d", 4, 17, 21));
@@ -423,9 +412,9 @@ TEST(ConditionNesting, CombinedHoldsNegatedHoldsRelational) {
     </RELATIONAL_CONDITION>
   </OPERAND>
 </NEGATIVE_CONDITION>)",
-                      emitted(Not, true)));
+                      visited(Not, true)));
   Not->setOperand(nullptr);
-  EXPECT_TRUE(sameXML("<NEGATIVE_CONDITION/>", emitted(Not)));
+  EXPECT_TRUE(sameXML("<NEGATIVE_CONDITION/>", visited(Not)));
 }
 
 //===----------------------------------------------------------------------===//
@@ -444,9 +433,9 @@ TEST(NamedConditions, ConditionNameSwitchAndAbbreviatedRelation) {
   <OPERAND><DATA_IDENTIFIER><DATA_ID>12</DATA_ID><QUALIFIED>is-eof</QUALIFIED>
   </DATA_IDENTIFIER></OPERAND>
 </COND_NAME_CONDITION>)",
-                      emitted(Name)));
+                      visited(Name)));
   Name->setConditionName(nullptr);
-  EXPECT_TRUE(sameXML("<COND_NAME_CONDITION/>", emitted(Name)));
+  EXPECT_TRUE(sameXML("<COND_NAME_CONDITION/>", visited(Name)));
 
   // A switch status name is a qualified name: its last qualifier only.
   auto *Front = T.at<QualifiedWord>(4, 22, 4, 27);
@@ -464,9 +453,9 @@ TEST(NamedConditions, ConditionNameSwitchAndAbbreviatedRelation) {
                lelo="4" leco="27" lfid="1" lfido="1">Sw-Grp</QUALIFIED>
   </OPERAND>
 </SWITCH_CONDITION>)",
-                      emitted(Switch, true)));
+                      visited(Switch, true)));
   Switch->setSwitchName(nullptr);
-  EXPECT_TRUE(sameXML("<SWITCH_CONDITION/>", emitted(Switch)));
+  EXPECT_TRUE(sameXML("<SWITCH_CONDITION/>", visited(Switch)));
 
   // The abbreviated combined relation is a direct child, not wrapped.
   auto *X = T.at<AbbrRelationCombinedExpression>(5, 20, 5, 26);
@@ -482,9 +471,9 @@ TEST(NamedConditions, ConditionNameSwitchAndAbbreviatedRelation) {
           leco="22" lfid="1" lfido="1">AND</TYPE>
   </ABBR_RELATION_EXPR>
 </ABBR_RELATION_CONDITION>)",
-                      emitted(Abbr, true)));
+                      visited(Abbr, true)));
   Abbr->setRight(nullptr);
-  EXPECT_TRUE(sameXML("<ABBR_RELATION_CONDITION/>", emitted(Abbr)));
+  EXPECT_TRUE(sameXML("<ABBR_RELATION_CONDITION/>", visited(Abbr)));
 }
 
 //===----------------------------------------------------------------------===//

@@ -1,6 +1,7 @@
 //===- tests/DataTest.cpp - Data division, data entries, file entries -----===//
 
 #include "TreeBuilder.h"
+#include "EmitterHarness.h"
 #include "XMLCompare.h"
 #include "korvid/XMLOstrel.h"
 
@@ -16,25 +17,8 @@ using tinyxml2::XMLElement;
 
 namespace {
 
-struct DataEmitter : XMLOstrel {
-  using XMLOstrel::appendNodeChild;
-  using XMLOstrel::getChildList;
-  using XMLOstrel::usageName;
-  XMLHandler &handler() { return *Handler; }
-};
-
-/// Writes \p N under a ROOT element the way its caller would (visited as a
-/// \p T, stamped, appended in order) and returns the document; locations
-/// are left out unless \p Located.
-template <class T> std::string written(T *N, bool Located = false) {
-  DataEmitter E;
-  XMLElement *Root = E.handler().newElement("ROOT");
-  E.appendNodeChild(Root, N);
-  E.handler().appendElementToDoc(Root);
-  if (!Located)
-    E.handler().removeAttributeLoc();
-  return E.handler().toString();
-}
+using DataEmitter = korvid::test::TestEmitter;
+using korvid::test::placed;
 
 /// The text of the first \p Tag child of the element that visiting \p D
 /// leaves in the slot ("<none>" when there is no such child).
@@ -183,7 +167,7 @@ TEST(DataDivision, SectionsHoldTheirEntriesFlatWithExecBlocksAmongThem) {
   </LINKAGE_SECTION>
   <REPORT_SECTION/>
 </DATA_DIVISION></ROOT>)",
-                      written(Div)));
+                      placed(Div)));
 }
 
 TEST(DataDivision, ChildListIsTheEntryThenItsDescendantsInPreOrder) {
@@ -261,7 +245,7 @@ TEST(DataDivision, FileAndReportEntriesAreWrappedAtTheirDescription) {
     </REPORT_SECTION>
   </DATA_DIVISION>
 </ROOT>)",
-                      written(Div, /*Located=*/true)));
+                      placed(Div, /*Located=*/true)));
 }
 
 //===----------------------------------------------------------------------===//
@@ -419,7 +403,7 @@ TEST(DataEntry, ComputedChildrenAreLocatedAtTheEntryAndWrittenInBits) {
                     lelo="6" leco="47" lfid="1" lfido="1">TRUE</TYPEDEF_STRONG>
   </DATA_DESC_ENTRY>
 </ROOT>)",
-                      written<DataDescription>(D, /*Located=*/true)));
+                      placed<DataDescription>(D, /*Located=*/true)));
 }
 
 TEST(DataEntry, ChildrenFollowTheirFixedOrderWhenLocationsTie) {
@@ -542,7 +526,7 @@ TEST(DataEntry, ChildrenFollowTheirFixedOrderWhenLocationsTie) {
   <USAGE>DISPLAY</USAGE>
   <VALUES><VALUE_ENTRY><MIN><VALUE>A</VALUE></MIN><MAX><VALUE>Z</VALUE></MAX></VALUE_ENTRY></VALUES>
 </DATA_DESC_ENTRY></ROOT>)",
-                      written<DataDescription>(D)));
+                      placed<DataDescription>(D)));
 }
 
 TEST(DataEntry, ClausesWithoutTheirWordsAndUnwrittenClausesLeaveNothing) {
@@ -587,14 +571,14 @@ TEST(DataEntry, ClausesWithoutTheirWordsAndUnwrittenClausesLeaveNothing) {
   <ID>3</ID><SIZE>0</SIZE><OFFSET>0</OFFSET><RULE>UNDEFINED</RULE>
   <TYPEDEF>TRUE</TYPEDEF>
 </DATA_DESC_ENTRY></ROOT>)",
-                      written<DataDescription>(D)));
+                      placed<DataDescription>(D)));
   EXPECT_TRUE(sameXML(R"(
 <ROOT><DATA_DESC_ENTRY>
   <ID>4</ID><SIZE>0</SIZE><OFFSET>0</OFFSET><RULE>UNDEFINED</RULE>
   <LEVEL>5</LEVEL><NAME>J</NAME><JUSTIFIED>Right</JUSTIFIED>
   <SIGN>TRAILING</SIGN>
 </DATA_DESC_ENTRY></ROOT>)",
-                      written<DataDescription>(R)));
+                      placed<DataDescription>(R)));
 }
 
 TEST(DataEntry, OtherEntryKindsAndClauseVisitsLeaveTheSlotAlone) {
@@ -688,7 +672,7 @@ TEST(DataEntry, OccursKeysIndexesAndValueRanges) {
     </INDEX>
   </OCCURS>
 </DATA_DESC_ENTRY></ROOT>)",
-                      written<DataDescription>(Tab)));
+                      placed<DataDescription>(Tab)));
   // A range has MIN and MAX, a single value MIN only.
   EXPECT_TRUE(sameXML(R"(
 <ROOT><DATA_DESC_ENTRY>
@@ -699,7 +683,7 @@ TEST(DataEntry, OccursKeysIndexesAndValueRanges) {
     <VALUE_ENTRY><MIN><VALUE>Y</VALUE></MIN></VALUE_ENTRY>
   </VALUES>
 </DATA_DESC_ENTRY></ROOT>)",
-                      written<DataDescription>(Cond)));
+                      placed<DataDescription>(Cond)));
 
   // The key list spans from its first key to the end of its last.
   DataEmitter E;
@@ -777,7 +761,7 @@ TEST(DataExec, BlockIsLocatedByItsCallerAndDiffersFromTheProcedureDivisions) {
     <TYPE>SQL</TYPE><CONTENT>INCLUDE SQLCA</CONTENT>
   </EXEC_STATEMENT>
 </ROOT>)",
-                      written<DataDescription>(X, /*Located=*/true)));
+                      placed<DataDescription>(X, /*Located=*/true)));
 
   // The same block in the procedure division loses INCLUDE too: the two
   // trimmings differ on purpose.
@@ -785,7 +769,7 @@ TEST(DataExec, BlockIsLocatedByItsCallerAndDiffersFromTheProcedureDivisions) {
                                 "EXEC SQL INCLUDE SQLCA END-EXEC");
   EXPECT_TRUE(sameXML(R"(
 <ROOT><EXEC_STATEMENT><TYPE>SQL</TYPE><CONTENT>SQLCA</CONTENT></EXEC_STATEMENT></ROOT>)",
-                      written<Statement>(S)));
+                      placed<Statement>(S)));
 }
 
 //===----------------------------------------------------------------------===//
@@ -946,7 +930,7 @@ TEST(FileDesc, ClausesThenRecordDescriptions) {
     <STYLENAME_LIST size="1" name="WordList"><WORD>S1</WORD></STYLENAME_LIST>
   </FILE_DESC></FILE_ENTRY>
 </FILE_SECTION></ROOT>)",
-                      written(FS)));
+                      placed(FS)));
 }
 
 TEST(FileDesc, ChildrenFollowTheirFixedOrderWhenLocationsTie) {
@@ -1039,7 +1023,7 @@ TEST(FileDesc, ChildrenFollowTheirFixedOrderWhenLocationsTie) {
   <DATA_DESC_ENTRY><ID>5</ID><SIZE>0</SIZE><OFFSET>0</OFFSET>
     <RULE>UNDEFINED</RULE><LEVEL>1</LEVEL></DATA_DESC_ENTRY>
 </FILE_DESC></ROOT>)",
-                      written(FD)));
+                      placed(FD)));
 }
 
 TEST(FileDesc, SingleWordFormsAndLinagePhrasesAreLocatedAtWhatTheyHold) {
@@ -1095,7 +1079,7 @@ TEST(FileDesc, SingleWordFormsAndLinagePhrasesAreLocatedAtWhatTheyHold) {
     </STYLENAME_LIST>
   </FILE_DESC>
 </ROOT>)",
-                      written(FD, /*Located=*/true)));
+                      placed(FD, /*Located=*/true)));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 //===- tests/EmitterSpineTest.cpp - Documents, helpers, assertions --------===//
 
+#include "EmitterHarness.h"
 #include "TreeBuilder.h"
 #include "XMLCompare.h"
 #include "korvid/XMLOstrel.h"
@@ -193,14 +194,7 @@ TEST(EmitXML, FileNamesNeedingEscapesStayWellFormed) {
 // The shared emission helpers, reached through a subclass.
 //===----------------------------------------------------------------------===//
 
-struct HelperEmitter : XMLOstrel {
-  using XMLOstrel::appendListChild;
-  using XMLOstrel::appendTextChild;
-  using XMLOstrel::appendWordChild;
-  using XMLOstrel::appendWrappedChild;
-  XMLHandler &handler() { return *Handler; }
-  int Initializations = 0;
-};
+using HelperEmitter = korvid::test::TestEmitter;
 
 TEST(EmitterHelpers, ListContainerCountsNullsAndSpansItsItems) {
   TreeBuilder T;

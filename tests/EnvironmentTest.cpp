@@ -1,6 +1,7 @@
 //===- tests/EnvironmentTest.cpp - Identification and environment divisions ===//
 
 #include "TreeBuilder.h"
+#include "EmitterHarness.h"
 #include "XMLCompare.h"
 #include "korvid/XMLOstrel.h"
 
@@ -18,19 +19,7 @@ using korvid::test::TreeBuilder;
 namespace {
 
 /// An emitter that hands out the document of one visited subtree.
-struct EnvEmitter : XMLOstrel {
-  XMLHandler &handler() { return *Handler; }
-
-  /// Visits \p N and returns the document holding the element it left;
-  /// without \p Locations no location attribute is printed.
-  template <class T> std::string emit(T *N, bool Locations) {
-    visit(N);
-    Handler->appendElementToDoc(Handler->getRetElement());
-    if (!Locations)
-      Handler->removeAttributeLoc();
-    return Handler->toString();
-  }
-};
+using EnvEmitter = korvid::test::TestEmitter;
 
 /// The location attributes of a one-line extent of the main file, with the
 /// file marks \p Fid (expanded) and \p FidOrg (as written).
@@ -117,7 +106,7 @@ TEST(IdentificationDivision, ProgramIdNameAndAttributes) {
                             ">P1</PROGRAM_NAME><INITIAL" + span(2, 26, 32) +
                             ">TRUE</INITIAL><COMMON" + span(2, 34, 39) +
                             ">TRUE</COMMON></ID_DIVISION>",
-                        E.emit(Id, true)));
+                        E.visited(Id, true)));
   }
   {
     // PROGRAM-ID. Sub-Prog RECURSIVE COMMON INITIAL. A word in the other
@@ -138,7 +127,7 @@ TEST(IdentificationDivision, ProgramIdNameAndAttributes) {
             ">TRUE</RECURSIVE><COMMON" + span(5, 39, 44) +
             ">TRUE</COMMON><INITIAL" + span(5, 46, 52) +
             ">TRUE</INITIAL></ID_DIVISION>",
-        E.emit(Id, true)));
+        E.visited(Id, true)));
   }
   {
     // A plain PROGRAM-ID, and one whose name the parser did not keep.
@@ -150,10 +139,10 @@ TEST(IdentificationDivision, ProgramIdNameAndAttributes) {
     EnvEmitter E;
     EXPECT_TRUE(sameXML("<ID_DIVISION><PROGRAM_NAME>PAYROLL</PROGRAM_NAME>"
                         "</ID_DIVISION>",
-                        E.emit(Id, false)));
+                        E.visited(Id, false)));
     Para->setProgramNameWord(nullptr);
     EnvEmitter E2;
-    EXPECT_TRUE(sameXML("<ID_DIVISION/>", E2.emit(Id, false)));
+    EXPECT_TRUE(sameXML("<ID_DIVISION/>", E2.visited(Id, false)));
   }
 }
 
@@ -205,7 +194,7 @@ TEST(ConfigurationSection, ComputerParagraphs) {
   </OBJECT_COMPUTER>
   <SPECIAL_NAMES/>
 </CONFIGURATION_SECTION>)",
-                      E.emit(Config, false)));
+                      E.visited(Config, false)));
 
   // Absent clauses and paragraphs leave nothing behind.
   Object->setMemSize(nullptr);
@@ -219,7 +208,7 @@ TEST(ConfigurationSection, ComputerParagraphs) {
   <SOURCE_COMPUTER><NAME>IBM-370</NAME></SOURCE_COMPUTER>
   <OBJECT_COMPUTER><NAME>Ibm-370</NAME></OBJECT_COMPUTER>
 </CONFIGURATION_SECTION>)",
-                      E2.emit(Config, false)));
+                      E2.visited(Config, false)));
 }
 
 TEST(ConfigurationSection, SpecialNamesClauses) {
@@ -358,7 +347,7 @@ TEST(ConfigurationSection, SpecialNamesClauses) {
   <CURRENCY_ENTRY><SYMBOL><VALUE>$</VALUE></SYMBOL></CURRENCY_ENTRY>
   <DECIMAL_POINT_COMMA>TRUE</DECIMAL_POINT_COMMA>
 </SPECIAL_NAMES>)",
-                      E.emit(Names, false)));
+                      E.visited(Names, false)));
 }
 
 TEST(ConfigurationSection, SingleLiteralScopes) {
@@ -378,7 +367,7 @@ TEST(ConfigurationSection, SingleLiteralScopes) {
                           "><VALUE" + X + ">X</VALUE></FROM><THRU" + X +
                           "><VALUE" + X + ">X</VALUE></THRU></SCOPE>"
                           "</ALPHABET_ENTRY>",
-                      E.emit(One, true)));
+                      E.visited(One, true)));
 
   auto *OnlyQ = T.at<ClauseClass>(17, 12, 17, 29);
   OnlyQ->setClassName(T.word("onlyq", 17, 18));
@@ -392,14 +381,14 @@ TEST(ConfigurationSection, SingleLiteralScopes) {
                           "><CLASS_FROM" + QAt + "><VALUE" + QAt +
                           ">Q</VALUE></CLASS_FROM></CLASS_SCOPE>"
                           "</CLASS_NAME_ENTRY>",
-                      E2.emit(OnlyQ, true)));
+                      E2.visited(OnlyQ, true)));
 
   // A scope whose first literal is missing writes only what is there.
   auto *ThruOnly = T.at<PhrsAlphabetThru>(21, 28, 21, 30);
   ThruOnly->setThruLiteral(T.str("Z", 21, 28));
   EnvEmitter E3;
   EXPECT_TRUE(sameXML("<SCOPE><THRU><VALUE>Z</VALUE></THRU></SCOPE>",
-                      E3.emit(ThruOnly, false)));
+                      E3.visited(ThruOnly, false)));
 }
 
 TEST(ConfigurationSection, SymbolicDefinitionCarriesItsLocationString) {
@@ -420,7 +409,7 @@ TEST(ConfigurationSection, SymbolicDefinitionCarriesItsLocationString) {
                           ">s2</CHARACTER><VALUE" + span(12, 42, 42, 2, 2) +
                           ">1</VALUE><VALUE" + span(12, 44, 44, 2, 2) +
                           ">2</VALUE></SYMBOLIC_DEF>",
-                      E.emit(Def, true)));
+                      E.visited(Def, true)));
   EXPECT_EQ(E.handler().getFileId("main.cbl:12:32"), 1);
   EXPECT_EQ(E.handler().getFileId("main.cbl"), 2);
 }
@@ -509,7 +498,7 @@ TEST(ConfigurationSection, FixedOrderWithoutLocations) {
   <CURRENCY_ENTRY><SYMBOL><VALUE>$</VALUE></SYMBOL></CURRENCY_ENTRY>
   <DECIMAL_POINT_COMMA>TRUE</DECIMAL_POINT_COMMA>
 </SPECIAL_NAMES>)",
-                      E.emit(Names, false)));
+                      E.visited(Names, false)));
 }
 
 //===----------------------------------------------------------------------===//
@@ -646,7 +635,7 @@ TEST(FileControl, EntryFromSource) {
     <ASSIGN_NAME_ENTRY><ASSIGN_NAME>PRINTER</ASSIGN_NAME></ASSIGN_NAME_ENTRY>
   </FILE_CONTROL_ENTRY>
 </FILE_CONTROL_PARAGRAPH>)",
-                      E.emit(Para, false)));
+                      E.visited(Para, false)));
 }
 
 TEST(FileControl, FixedClauseOrderWithoutLocations) {
@@ -731,18 +720,18 @@ TEST(FileControl, FixedClauseOrderWithoutLocations) {
   <REPORT_TYPE_ENTRY><TYPE>NONE</TYPE></REPORT_TYPE_ENTRY>
   <REPORT_FIRST_PAGE_ENTRY/>
 </FILE_CONTROL_ENTRY>)",
-                      E.emit(F, false)));
+                      E.visited(F, false)));
 }
 
 TEST(FileControl, ClauseVariantsAndTheirLocations) {
   EnvTree T;
   auto Located = [](auto *N) {
     EnvEmitter E;
-    return E.emit(N, true);
+    return E.visited(N, true);
   };
   auto Stripped = [](auto *N) {
     EnvEmitter E;
-    return E.emit(N, false);
+    return E.visited(N, false);
   };
 
   // 30 RECORD DELIMITER IS standard-1: TYPE alone, as written.
@@ -838,7 +827,7 @@ TEST(FileControl, ClauseVariantsAndTheirLocations) {
                           ">DISK1</ASSIGN_NAME><ASSIGN_NAME" +
                           span(20, 47, 51, 3, 2) +
                           ">DISK2</ASSIGN_NAME></ASSIGN_NAME_ENTRY>",
-                      E.emit(Assign, true)));
+                      E.visited(Assign, true)));
   EXPECT_EQ(E.handler().getFileId("main.cbl:20:41"), 1);
   EXPECT_EQ(E.handler().getFileId("main.cbl:20:47"), 3);
 }
@@ -922,7 +911,7 @@ TEST(IOControl, RerunSameAndMultipleFile) {
   </MULTIPLE></IO_CONTROL_ENTRY>
   <IO_CONTROL_ENTRY/>
 </IO_CONTROL>)",
-                      E.emit(Para, false)));
+                      E.visited(Para, false)));
 
   // TYPE RECORD is located at the count, which then follows at the same
   // place; END_REEL at the REEL word.
@@ -932,13 +921,13 @@ TEST(IOControl, RerunSameAndMultipleFile) {
                           ">RECORD</TYPE><VALUE" + span(41, 36, 38) +
                           ">100</VALUE><FILE_NAME" + span(41, 51, 61) +
                           ">master-file</FILE_NAME></RERUN>",
-                      E2.emit(ByRecords, true)));
+                      E2.visited(ByRecords, true)));
   EnvEmitter E3;
   EXPECT_TRUE(sameXML("<RERUN><ON" + span(42, 21, 28) +
                           ">chk-file</ON><TYPE" + span(42, 43, 46) +
                           ">END_REEL</TYPE><FILE_NAME" + span(42, 51, 58) +
                           ">out-file</FILE_NAME></RERUN>",
-                      E3.emit(ByReel, true)));
+                      E3.visited(ByReel, true)));
 }
 
 //===----------------------------------------------------------------------===//
@@ -949,13 +938,13 @@ TEST(EnvironmentDivision, EmptyPartsAndClausesWithoutElements) {
   EnvTree T;
   auto *Env = T.at<EnvironmentDivision>(3, 8, 3, 28);
   EnvEmitter E;
-  EXPECT_TRUE(sameXML("<ENVIRONMENT_DIVISION/>", E.emit(Env, false)));
+  EXPECT_TRUE(sameXML("<ENVIRONMENT_DIVISION/>", E.visited(Env, false)));
   Env->setConfigurationSection(T.at<ConfigurationSection>(4, 8, 4, 29));
   Env->setInputOutputSection(T.at<InputOutputSection>(5, 8, 5, 28));
   EnvEmitter E2;
   EXPECT_TRUE(sameXML("<ENVIRONMENT_DIVISION><CONFIGURATION_SECTION/>"
                       "<IO_SECTION/></ENVIRONMENT_DIVISION>",
-                      E2.emit(Env, false)));
+                      E2.visited(Env, false)));
 
   // These clauses are read by their owners and make no element: the
   // return-element slot is left as it was.

@@ -1,6 +1,7 @@
 //===- tests/ExpressionTest.cpp - Operands and expressions ----------------===//
 
 #include "TreeBuilder.h"
+#include "EmitterHarness.h"
 #include "XMLCompare.h"
 #include "korvid/XMLOstrel.h"
 
@@ -16,20 +17,8 @@ using tinyxml2::XMLElement;
 
 namespace {
 
-struct Emitter : XMLOstrel {
-  XMLHandler &handler() { return *Handler; }
-};
-
-/// The element that visiting \p N leaves in the slot, printed on its own by
-/// a fresh emitter (nobody stamps it), with or without locations.
-template <class T> std::string emitted(T *N, bool Located = false) {
-  Emitter E;
-  E.visit(N);
-  E.handler().appendElementToDoc(E.handler().getRetElement());
-  if (!Located)
-    E.handler().removeAttributeLoc();
-  return E.handler().toString();
-}
+using Emitter = korvid::test::TestEmitter;
+using korvid::test::visited;
 
 /// The text of the first \p Tag child of the element a visit of \p N
 /// leaves, or "<none>" when there is no such child.
@@ -75,17 +64,17 @@ DataIdentifierExpression *dataName(TreeBuilder &T, const std::string &Text,
 TEST(LiteralExpression, TextsAsWrittenUnlessAnyByteIsControlOrNonAscii) {
   TreeBuilder T;
   auto *Num = literal<NumericLiteralExpression>(T, "-3.5", 1, 1);
-  EXPECT_TRUE(sameXML("<VALUE>-3.5</VALUE>", emitted(Num)));
+  EXPECT_TRUE(sameXML("<VALUE>-3.5</VALUE>", visited(Num)));
 
   auto *Plain = literal<NonNumericLiteralExpression>(T, " a<b>&'~ ", 1, 1);
-  EXPECT_TRUE(sameXML("<VALUE> a&lt;b&gt;&amp;'~ </VALUE>", emitted(Plain)));
+  EXPECT_TRUE(sameXML("<VALUE> a&lt;b&gt;&amp;'~ </VALUE>", visited(Plain)));
 
   // The byte test reads chars as signed: everything from 0x80 up counts as
   // a control character, so any non-ASCII literal becomes the placeholder.
   for (const char *Text : {"TAB\tHERE", "\x01", "end\x1f", "DEL\x7f",
                            "caf\xe4", "UTF-8 \xc3\xbc", "\xff"}) {
     auto *L = literal<NonNumericLiteralExpression>(T, Text, 1, 1);
-    EXPECT_TRUE(sameXML("<VALUE>DUMMY_LITERAL</VALUE>", emitted(L))) << Text;
+    EXPECT_TRUE(sameXML("<VALUE>DUMMY_LITERAL</VALUE>", visited(L))) << Text;
   }
   // The bounds of the test: space (32) and tilde (126) are kept.
   auto *Edges = literal<NonNumericLiteralExpression>(T, " ~", 1, 1);
@@ -133,7 +122,7 @@ TEST(FigurativeLiteralExpression, KeywordAndAllLiteralAreWrapped) {
            leco="27" lfid="1" lfido="1">ab</VALUE>
   </LITERAL>
 </FIGURATIVE_CONSTANT>)",
-                      emitted(All, true)));
+                      visited(All, true)));
 
   // ALL ZEROS: the literal is itself a figurative constant.
   auto *Zeros = T.at<FigurativeLiteralExpression>(6, 1, 6, 5);
@@ -145,9 +134,9 @@ TEST(FigurativeLiteralExpression, KeywordAndAllLiteralAreWrapped) {
   <LITERAL><FIGURATIVE_CONSTANT><VALUE><WORD>ZEROS</WORD></VALUE>
   </FIGURATIVE_CONSTANT></LITERAL>
 </FIGURATIVE_CONSTANT>)",
-                      emitted(AllZeros)));
+                      visited(AllZeros)));
   EXPECT_TRUE(sameXML("<FIGURATIVE_CONSTANT/>",
-                      emitted(T.at<FigurativeLiteralExpression>(1, 1, 1, 1))));
+                      visited(T.at<FigurativeLiteralExpression>(1, 1, 1, 1))));
 }
 
 TEST(QualifiedWord, OnlyTheRearWordOfTheLastQualifierSurvives) {
@@ -163,12 +152,12 @@ TEST(QualifiedWord, OnlyTheRearWordOfTheLastQualifierSurvives) {
   A->setFrontWord(B);
   // Not the joined chain, and not the first name: the last qualifier, as
   // written.
-  EXPECT_TRUE(sameXML("<QUALIFIED>Rec-C</QUALIFIED>", emitted(A)));
+  EXPECT_TRUE(sameXML("<QUALIFIED>Rec-C</QUALIFIED>", visited(A)));
   EXPECT_TRUE(sameXML("<QUALIFIED>group-b</QUALIFIED>",
-                      emitted(T.at<QualifiedWord>(1, 1, 1, 1, nullptr,
+                      visited(T.at<QualifiedWord>(1, 1, 1, 1, nullptr,
                                                   B->getRearWord()))));
   // A bare word is written normalised instead.
-  EXPECT_TRUE(sameXML("<WORD>REC-C</WORD>", emitted(C->getRearWord())));
+  EXPECT_TRUE(sameXML("<WORD>REC-C</WORD>", visited(C->getRearWord())));
 }
 
 //===----------------------------------------------------------------------===//
@@ -222,7 +211,7 @@ TEST(DataIdentifierExpression, ResolvedIdNameSubscriptAndBareRefmod) {
     </START_POSITION>
   </REFERENCE_MODIFIER>
 </DATA_IDENTIFIER>)",
-                      emitted(D, true)));
+                      visited(D, true)));
 
   // Only an extended data description lends its number: no target, or a
   // target of another kind, gives 0.
@@ -232,7 +221,7 @@ TEST(DataIdentifierExpression, ResolvedIdNameSubscriptAndBareRefmod) {
   EXPECT_TRUE(sameXML(
       "<DATA_IDENTIFIER><DATA_ID>0</DATA_ID><QUALIFIED>tbl</QUALIFIED>"
       "</DATA_IDENTIFIER>",
-      emitted(D)));
+      visited(D)));
   D->setTarget(T.at<ExFileDescription>(2, 8, 2, 30));
   EXPECT_EQ(childText(D, "DATA_ID"), "0");
   D->setTarget(T.at<DataDescription>(2, 8, 2, 30));
@@ -242,7 +231,7 @@ TEST(DataIdentifierExpression, ResolvedIdNameSubscriptAndBareRefmod) {
   EXPECT_EQ(childText(D, "DATA_ID"), "4000000000");
   // Without a name there is no number either.
   D->setName(nullptr);
-  EXPECT_TRUE(sameXML("<DATA_IDENTIFIER/>", emitted(D)));
+  EXPECT_TRUE(sameXML("<DATA_IDENTIFIER/>", visited(D)));
 }
 
 TEST(FunctionIdentifierExpression, NormalisedNameArgsAndDoubleRefmod) {
@@ -278,7 +267,7 @@ TEST(FunctionIdentifierExpression, NormalisedNameArgsAndDoubleRefmod) {
     </REFERENCE_MODIFIER>
   </REFERENCE_MODIFIER>
 </FUNC_IDENTIFIER>)",
-                      emitted(F)));
+                      visited(F)));
   // FUNC_NAME is located at the name word.
   F->setSubscriptMod(nullptr);
   F->setReferenceMod(nullptr);
@@ -287,9 +276,9 @@ TEST(FunctionIdentifierExpression, NormalisedNameArgsAndDoubleRefmod) {
   <FUNC_NAME lbl="4" lbc="21" lel="4" lec="30" lblo="4" lbco="21" lelo="4"
              leco="30" lfid="1" lfido="1">UPPER-CASE</FUNC_NAME>
 </FUNC_IDENTIFIER>)",
-                      emitted(F, true)));
+                      visited(F, true)));
   auto *Bare = T.at<FunctionIdentifierExpression>(1, 1, 1, 1);
-  EXPECT_TRUE(sameXML("<FUNC_IDENTIFIER/>", emitted(Bare)));
+  EXPECT_TRUE(sameXML("<FUNC_IDENTIFIER/>", visited(Bare)));
 }
 
 TEST(SpecialRegisterIdentifierExpression, NamesOfEveryRegister) {
@@ -323,7 +312,7 @@ TEST(SpecialRegisterIdentifierExpression, NamesOfEveryRegister) {
     auto *R = T.at<SpecialRegisterIdentifierExpression>(3, 5, 3, 20);
     R->setType(Ty);
     R->setRegisterWord(T.word("reg", 3, 5));
-    return emitted(R);
+    return visited(R);
   };
   EXPECT_EQ(TextOf(SR_RW_PAGE_COUNTER), TextOf(SR_PAGE_COUNTER));
   EXPECT_EQ(TextOf(SR_RW_LINE_COUNTER), TextOf(SR_LINE_COUNTER));
@@ -349,10 +338,10 @@ TEST(SpecialRegisterIdentifierExpression, NamesOfEveryRegister) {
     </DATA_IDENTIFIER>
   </FILE_NAME>
 </SPECIAL_REGISTER_IDENTIFIER>)",
-                      emitted(Len, true)));
+                      visited(Len, true)));
   Len->setRegisterWord(nullptr);
   Len->setIdent(nullptr);
-  EXPECT_TRUE(sameXML("<SPECIAL_REGISTER_IDENTIFIER/>", emitted(Len)));
+  EXPECT_TRUE(sameXML("<SPECIAL_REGISTER_IDENTIFIER/>", visited(Len)));
 }
 
 //===----------------------------------------------------------------------===//
@@ -399,7 +388,7 @@ TEST(ArithmeticExpression, OperatorTextsAndOperands) {
            leco="8" lfid="1" lfido="1">2</VALUE>
   </OPERAND_RIGHT>
 </ARITHMETIC_EXPR>)",
-                      emitted(Pow, true)));
+                      visited(Pow, true)));
 
   // A unary minus has one operand; an expression whose operator word is
   // missing has no OPERATOR.
@@ -410,12 +399,12 @@ TEST(ArithmeticExpression, OperatorTextsAndOperands) {
   EXPECT_TRUE(sameXML(
       "<ARITHMETIC_EXPR><OPERATOR>U_MINUS</OPERATOR>"
       "<OPERAND_LEFT><VALUE>7</VALUE></OPERAND_LEFT></ARITHMETIC_EXPR>",
-      emitted(Neg)));
+      visited(Neg)));
   Neg->setOperator1(nullptr);
   EXPECT_TRUE(sameXML(
       "<ARITHMETIC_EXPR><OPERAND_LEFT><VALUE>7</VALUE></OPERAND_LEFT>"
       "</ARITHMETIC_EXPR>",
-      emitted(Neg)));
+      visited(Neg)));
 }
 
 TEST(SubscriptModifier, ListCountsNullItemsAndSpansItsItems) {
@@ -435,11 +424,11 @@ TEST(SubscriptModifier, ListCountsNullItemsAndSpansItsItems) {
            leco="13" lfid="1" lfido="2">3</VALUE>
   </SubscriptList>
 </SUBSCRIPT_MODIFIER>)",
-                      emitted(S, true)));
+                      visited(S, true)));
   EXPECT_TRUE(sameXML("<SUBSCRIPT_MODIFIER/>",
-                      emitted(T.at<SubscriptModifier>(1, 1, 1, 1))));
+                      visited(T.at<SubscriptModifier>(1, 1, 1, 1))));
   EXPECT_TRUE(sameXML("<REFERENCE_MODIFIER/>",
-                      emitted(T.at<ReferenceModifier>(1, 1, 1, 1))));
+                      visited(T.at<ReferenceModifier>(1, 1, 1, 1))));
 }
 
 TEST(ExpressionNesting, ArithmeticInSubscriptInReferenceModifiedName) {
@@ -485,7 +474,7 @@ TEST(ExpressionNesting, ArithmeticInSubscriptInReferenceModifiedName) {
     </START_POSITION>
   </REFERENCE_MODIFIER>
 </DATA_IDENTIFIER>)",
-                      emitted(static_cast<Expression *>(D))));
+                      visited(static_cast<Expression *>(D))));
 }
 
 //===----------------------------------------------------------------------===//
@@ -612,7 +601,7 @@ TEST(AbbrRelationCombinedExpression, ConnectivesOperandsAndParenthList) {
     </ABBR_RELATION_CONDITION>
   </RIGHT_PARENTH>
 </ABBR_RELATION_EXPR>)",
-                      emitted(X, true)));
+                      visited(X, true)));
 }
 
 TEST(AbbrRelationCombinedExpression, ConnectiveAndListOperatorTexts) {
@@ -655,12 +644,12 @@ TEST(AbbrRelationCombinedExpression, ConnectiveAndListOperatorTexts) {
   // while a list of items without relations still gets its element.
   auto *NoList = T.at<AbbrRelationCombinedExpression>(1, 1, 1, 9);
   NoList->setParenthOperator(REL_OP_LT);
-  EXPECT_TRUE(sameXML("<ABBR_RELATION_EXPR/>", emitted(NoList)));
+  EXPECT_TRUE(sameXML("<ABBR_RELATION_EXPR/>", visited(NoList)));
   NoList->addAbbrCond(T.at<AbbrCondItem>(1, 5, 1, 9));
   EXPECT_TRUE(sameXML(
       "<ABBR_RELATION_EXPR><PARENTH_RELTYPE>LT</PARENTH_RELTYPE>"
       "<RIGHT_PARENTH/></ABBR_RELATION_EXPR>",
-      emitted(NoList)));
+      visited(NoList)));
 }
 
 //===----------------------------------------------------------------------===//

@@ -9,6 +9,7 @@
 //===----------------------------------------------------------------------===//
 
 #include "TreeBuilder.h"
+#include "EmitterHarness.h"
 #include "XMLCompare.h"
 #include "korvid/XMLOstrel.h"
 
@@ -24,9 +25,8 @@ namespace {
 
 /// The emitter with the expression and condition leaves replaced by small
 /// stand-ins; everything else is the real emitter.
-struct ProcEmitter : XMLOstrel {
+struct ProcEmitter : korvid::test::TestEmitter {
   using XMLOstrel::visit;
-  XMLHandler &handler() { return *Handler; }
 
   void text(const char *Tag, const std::string &Text) {
     tinyxml2::XMLElement *Own = Handler->newRetElement(Tag);
@@ -45,20 +45,10 @@ struct ProcEmitter : XMLOstrel {
   }
 };
 
-/// Visits \p N on \p E and returns the element it left, as a document;
-/// without \p Locations the location attributes are left out.
-template <class T>
-std::string render(ProcEmitter &E, T *N, bool Locations = false) {
-  E.visit(N);
-  E.handler().appendElementToDoc(E.handler().getRetElement());
-  if (!Locations)
-    E.handler().removeAttributeLoc();
-  return E.handler().toString();
-}
-
+/// The element a visit of \p N leaves, printed alone, with the stand-ins.
 template <class T> std::string render(T *N, bool Locations = false) {
   ProcEmitter E;
-  return render(E, N, Locations);
+  return E.visited(N, Locations);
 }
 
 /// Shorthands for the operands and statements of these tests.
@@ -721,7 +711,7 @@ TEST(ControlFlow, EvaluateLabelsAreLocatedAtTheirWords) {
   // subject's at its expression, before the expression's own element.
   NestedFlow T;
   ProcEmitter E;
-  std::string Doc = render(E, T.Eval, true);
+  std::string Doc = E.visited(T.Eval, true);
   EXPECT_NE(Doc.find(R"(<TYPE lbl="11" lbc="23" lel="11" lec="26" lblo="11" lbco="23" lelo="11" leco="26" lfid="1" lfido="1">TRUE</TYPE>)"),
             std::string::npos)
       << Doc;
@@ -958,7 +948,7 @@ TEST(InterProgram, CallSplitsArgumentGroups) {
   Call->addExceptHandler(OnEx);
 
   ProcEmitter E;
-  std::string Doc = render(E, Call, true);
+  std::string Doc = E.visited(Call, true);
   // Each argument is located with the printable position of its group in
   // place of the expanded file name, so those positions enter the file
   // table as names of their own.
@@ -1089,7 +1079,7 @@ TEST(InterProgram, EntryParametersAndReturning) {
   // The split parameters keep their group's location; the type label is
   // located there too.
   ProcEmitter E;
-  std::string Located = render(E, Params, true);
+  std::string Located = E.visited(Params, true);
   EXPECT_NE(Located.find(R"(<PARAM lbl="3" lbc="29" lel="3" lec="40" lblo="3" lbco="29" lelo="3" leco="40" lfid="1" lfido="1">)"),
             std::string::npos)
       << Located;

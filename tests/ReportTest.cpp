@@ -1,6 +1,7 @@
 //===- tests/ReportTest.cpp - Report descriptions and report groups -------===//
 
 #include "TreeBuilder.h"
+#include "EmitterHarness.h"
 #include "XMLCompare.h"
 #include "korvid/XMLOstrel.h"
 
@@ -17,23 +18,8 @@ namespace {
 
 /// An emitter whose placing helper is reachable, so a node is written the
 /// way its caller places it: visited, stamped with its location, appended.
-struct ReportEmitter : XMLOstrel {
-  using XMLOstrel::appendNodeChild;
-  XMLHandler &handler() { return *Handler; }
-};
-
-/// Writes \p N under a bare ROOT element with a fresh emitter and returns
-/// the document; locations are left out unless \p Located.
-template <class T> std::string emit(T *N, bool Located = false) {
-  ReportEmitter E;
-  XMLHandler &H = E.handler();
-  tinyxml2::XMLElement *Root = H.newElement("ROOT");
-  E.appendNodeChild(Root, N);
-  H.appendElementToDoc(Root);
-  if (!Located)
-    H.removeAttributeLoc();
-  return H.toString();
-}
+using ReportEmitter = korvid::test::TestEmitter;
+using korvid::test::placed;
 
 /// Expected documents with locations stay readable: "@(L,B,E)" stands for
 /// the attributes of an element located at line L, columns B to E of the
@@ -348,7 +334,7 @@ TEST(ReportDescription, HeadingDetailAndFootingGroupsStandSideBySide) {
   </REPORT_DATA_DESC>
  </REPORT_DESC>
 </ROOT>)",
-                      emit(RD)));
+                      placed(RD)));
 }
 
 // Reached from the data division, each RD is wrapped in a report entry of
@@ -373,7 +359,7 @@ TEST(ReportDescription, ReachedThroughTheReportSection) {
        </REPORT_DATA_DESC>
       </REPORT_DESC>
     </REPORT_ENTRY></REPORT_SECTION></DATA_DIVISION></ROOT>)",
-                      emit(Data)));
+                      placed(Data)));
 }
 
 //===----------------------------------------------------------------------===//
@@ -427,13 +413,13 @@ TEST(ReportDescription, ClausesFollowTheSourceThenTheFixedOrder) {
     }
     return Tags;
   };
-  EXPECT_EQ(Children(emit(Build(false))),
+  EXPECT_EQ(Children(placed(Build(false))),
             (std::vector<std::string>{"OVERFLOW_CLAUSE", "STYLE_CLAUSE",
                                       "PAGELIMIT_CLAUSE", "LINELIMIT_CLAUSE",
                                       "CONTROL_CLAUSE", "CODE_CLAUSE",
                                       "ALLOW_CLAUSE"}));
   EXPECT_EQ(
-      Children(emit(Build(true))),
+      Children(placed(Build(true))),
       (std::vector<std::string>{"ALLOW_CLAUSE", "CODE_CLAUSE", "CONTROL_CLAUSE",
                                 "LINELIMIT_CLAUSE", "PAGELIMIT_CLAUSE",
                                 "STYLE_CLAUSE", "OVERFLOW_CLAUSE"}));
@@ -445,7 +431,7 @@ TEST(ReportDescription, ClausesFollowTheSourceThenTheFixedOrder) {
   EXPECT_TRUE(sameXML(located(R"(<ROOT><REPORT_DESC @(30,8,20)>
         <TYPE @(30,8,9)>rd</TYPE><NAME @(30,12,16)>Short</NAME>
       </REPORT_DESC></ROOT>)"),
-                      emit(Bare, true)));
+                      placed(Bare, true)));
 }
 
 TEST(ReportDescription, ClauseContents) {
@@ -455,7 +441,7 @@ TEST(ReportDescription, ClauseContents) {
   Allow->setNoWord(T.word("no", 11, 18));
   EXPECT_TRUE(
       sameXML("<ROOT><ALLOW_CLAUSE><OPTION>no</OPTION></ALLOW_CLAUSE></ROOT>",
-              emit(Allow)));
+              placed(Allow)));
 
   // CODE 'A'. LINE LIMIT 132.
   auto *Code = T.on<ClauseCode>(12, 12, 19);
@@ -464,10 +450,10 @@ TEST(ReportDescription, ClauseContents) {
   LineLimit->setLineLimitExpr(T.num("132", 13, 23));
   EXPECT_TRUE(sameXML(
       "<ROOT><CODE_CLAUSE><CODE><VALUE>A</VALUE></CODE></CODE_CLAUSE></ROOT>",
-      emit(Code)));
+      placed(Code)));
   EXPECT_TRUE(sameXML("<ROOT><LINELIMIT_CLAUSE><LINELIMIT><VALUE>132</VALUE>"
                       "</LINELIMIT></LINELIMIT_CLAUSE></ROOT>",
-                      emit(LineLimit)));
+                      placed(LineLimit)));
 
   // CONTROLS ARE REPORT FINAL A B, the parser having dropped an item in
   // between: the list counts it, the words are written normalised.
@@ -488,7 +474,7 @@ TEST(ReportDescription, ClauseContents) {
        <QUALIFIED @(14,45,45)>B</QUALIFIED></DATA_IDENTIFIER>
      </CONTROLID_LIST>
     </CONTROL_CLAUSE></ROOT>)"),
-                      emit(Control, true)));
+                      placed(Control, true)));
 
   // PAGE LIMIT with every phrase, all on one place so that the written
   // order shows; a phrase without its number writes nothing.
@@ -515,7 +501,7 @@ TEST(ReportDescription, ClauseContents) {
       <LAST_FOOTING><VALUE>55</VALUE></LAST_FOOTING>
       <PAGELIMIT><VALUE>60</VALUE></PAGELIMIT>
     </PAGELIMIT_CLAUSE></ROOT>)",
-                      emit(Page)));
+                      placed(Page)));
   Last->setLastDetailExpr(nullptr);
   Page->setHeadingPhrase(nullptr);
   EXPECT_TRUE(sameXML(R"(<ROOT><PAGELIMIT_CLAUSE>
@@ -523,7 +509,7 @@ TEST(ReportDescription, ClauseContents) {
       <LAST_FOOTING><VALUE>55</VALUE></LAST_FOOTING>
       <PAGELIMIT><VALUE>60</VALUE></PAGELIMIT>
     </PAGELIMIT_CLAUSE></ROOT>)",
-                      emit(Page)));
+                      placed(Page)));
 
   // STYLE: the STYLE word's wrapper and the name list share their tag.
   auto *Style = T.on<ClauseRdStyle>(16, 12, 30);
@@ -536,7 +522,7 @@ TEST(ReportDescription, ClauseContents) {
        <WORD>BOLD</WORD><WORD>UNDER</WORD>
       </STYLENAME_LIST>
     </STYLE_CLAUSE></ROOT>)",
-                      emit(Style)));
+                      placed(Style)));
 
   // OVERFLOW: the one literal is written after REPLACE and again after
   // STOP, each time with the literal's location.
@@ -550,7 +536,7 @@ TEST(ReportDescription, ClauseContents) {
       <REPLACE_LITERAL @(17,34,36)><VALUE @(17,34,36)>X</VALUE></REPLACE_LITERAL>
       <STOP_LITERAL @(17,34,36)><VALUE @(17,34,36)>X</VALUE></STOP_LITERAL>
     </OVERFLOW_CLAUSE></ROOT>)"),
-                      emit(Overflow, true)));
+                      placed(Overflow, true)));
   // Without REPLACE and STOP the literal is not written at all.
   auto *Plain = T.on<ClauseOverflow>(18, 12, 40);
   Plain->setOmittedWord(T.word("OMITTED", 18, 21));
@@ -560,7 +546,7 @@ TEST(ReportDescription, ClauseContents) {
       <OVERFLOW_OPTION><WORD>OMITTED</WORD></OVERFLOW_OPTION>
       <OVERFLOW_OPTION><WORD>STANDARD</WORD></OVERFLOW_OPTION>
     </OVERFLOW_CLAUSE></ROOT>)",
-                      emit(Plain)));
+                      placed(Plain)));
 }
 
 //===----------------------------------------------------------------------===//
@@ -598,7 +584,7 @@ TEST(ReportGroupEntry, OwnItemsAndTheirLocations) {
      <JUSTIFIED @(21,22,26)>right</JUSTIFIED>
      <USAGE @(21,28,48)>COMP3</USAGE>
     </REPORT_DATA_DESC></ROOT>)"),
-                      emit(D, true)));
+                      placed(D, true)));
 
   // A short usage form keeps its hyphen; JUSTIFIED without RIGHT, and a
   // GROUP LIMIT or PICTURE without its operand, write nothing.
@@ -612,12 +598,12 @@ TEST(ReportGroupEntry, OwnItemsAndTheirLocations) {
   EXPECT_TRUE(
       sameXML("<ROOT><REPORT_DATA_DESC><LEVEL>10</LEVEL><USAGE>COMP-3</USAGE>"
               "</REPORT_DATA_DESC></ROOT>",
-              emit(E)));
+              placed(E)));
   // A USAGE clause that lost its word writes nothing either.
   Short->setUsageDescWord(nullptr);
   EXPECT_TRUE(sameXML(
       "<ROOT><REPORT_DATA_DESC><LEVEL>10</LEVEL></REPORT_DATA_DESC></ROOT>",
-      emit(E)));
+      placed(E)));
 }
 
 // Every child sharing one place shows the order in which the entry writes
@@ -696,7 +682,7 @@ TEST(ReportGroupEntry, ClausesSharingAPlaceFollowTheStatedOrder) {
       <JUSTIFIED>RIGHT</JUSTIFIED>
       <USAGE>DISPLAY1</USAGE>
     </REPORT_DATA_DESC></ROOT>)",
-                      emit(D)));
+                      placed(D)));
 }
 
 //===----------------------------------------------------------------------===//
@@ -760,7 +746,7 @@ TEST(ReportGroupClauses, SourceArithmeticNests) {
     </SOURCE_EXPR_LIST>
     <ROUNDED @(40,35,41)>TRUE</ROUNDED>
    </REPORT_SOURCE></ROOT>)"),
-                      emit(Source, true)));
+                      placed(Source, true)));
 
   // A unary operator has no left operand; an operand writes every part it
   // holds whatever its kind says.
@@ -793,7 +779,7 @@ TEST(ReportGroupClauses, SourceArithmeticNests) {
        <DATA_IDENTIFIER><DATA_ID>0</DATA_ID><QUALIFIED>ws-d</QUALIFIED></DATA_IDENTIFIER>
       </EXPR_LIST></REPORT_COUNT_EXPR>
     </REPORT_SOURCE_EXPR></ROOT>)",
-                      emit(Mixed)));
+                      placed(Mixed)));
 }
 
 // SUM ws-a ws-b UPON d1 RESET ON ws-dept ROUNDED, and COUNT of two operand
@@ -830,7 +816,7 @@ TEST(ReportGroupClauses, SumAndCountWithReset) {
     </RESET_CONTROL_ID>
     <ROUNDED @(50,51,57)>TRUE</ROUNDED>
    </REPORT_SUM></ROOT>)"),
-                      emit(Sum, true)));
+                      placed(Sum, true)));
 
   // 51            COUNT OF ws-a, ws-b RESET ON FINAL-CTL
   auto *Count = T.on<ClauseCount>(51, 12, 46);
@@ -854,7 +840,7 @@ TEST(ReportGroupClauses, SumAndCountWithReset) {
      <DATA_IDENTIFIER><DATA_ID>0</DATA_ID><QUALIFIED>final-ctl</QUALIFIED></DATA_IDENTIFIER>
     </RESET_CONTROL_ID>
    </REPORT_COUNT></ROOT>)",
-                      emit(Count)));
+                      placed(Count)));
 }
 
 // PRESENT WHEN with a condition; PRESENT AFTER and PRESENT WHEN write the
@@ -883,7 +869,7 @@ TEST(ReportGroupClauses, PresentWhenAndAfter) {
      </RELATIONAL_CONDITION>
     </WHEN_CONDITION>
    </REPORT_PRESENT_WHEN></ROOT>)"),
-                      emit(When, true)));
+                      placed(When, true)));
 
   // 61            ABSENT WHEN ws-ctl UNLESS ...: both words present.
   auto *Both = T.on<ClausePresentWhen>(61, 12, 40);
@@ -899,7 +885,7 @@ TEST(ReportGroupClauses, PresentWhenAndAfter) {
     </WHEN_CONTROL_ID>
     <OPTION @(61,31,36)>ABSENT_UNLESS</OPTION>
    </REPORT_PRESENT_WHEN></ROOT>)"),
-                      emit(Both, true)));
+                      placed(Both, true)));
 
   // 62            PRESENT AFTER ws-dept, and GROUP INDICATE.
   auto *After = T.on<ClausePresentAfter>(62, 12, 40);
@@ -915,13 +901,13 @@ TEST(ReportGroupClauses, PresentWhenAndAfter) {
     </AFTER_CONTROL_ID>
     <OPTION @(62,34,38)>PRESENT_AFTER</OPTION>
    </REPORT_PRESENT_AFTER></ROOT>)"),
-                      emit(After, true)));
+                      placed(After, true)));
   auto *Indicate = T.on<ClausePresentAfter>(63, 12, 25);
   Indicate->setAfterType(RPT_AFT_GROUP);
   Indicate->setGroupWord(T.word("GROUP", 63, 12));
   EXPECT_TRUE(sameXML("<ROOT><REPORT_PRESENT_AFTER><OPTION>GROUP_INDICATE"
                       "</OPTION></REPORT_PRESENT_AFTER></ROOT>",
-                      emit(Indicate)));
+                      placed(Indicate)));
 }
 
 // The fixed texts of the kinds; TYPE and the OCCURS step accept any value,
@@ -943,7 +929,7 @@ TEST(ReportGroupClauses, KindTexts) {
         sameXML(located("<ROOT><REPORT_TYPE @(70,12,20)><TYPE "
                         "@(70,12,20)>" +
                         std::string(Text) + "</TYPE></REPORT_TYPE></ROOT>"),
-                emit(C, true)))
+                placed(C, true)))
         << "type " << Value;
   }
 
@@ -967,7 +953,7 @@ TEST(ReportGroupClauses, KindTexts) {
     EXPECT_TRUE(sameXML("<ROOT><REPORT_OCCURS><OCCURS/><OCCURS_OPTION>" +
                             std::string(Text) +
                             "</OCCURS_OPTION></REPORT_OCCURS></ROOT>",
-                        emit(C)))
+                        placed(C)))
         << "step " << Value;
   }
 
@@ -983,7 +969,7 @@ TEST(ReportGroupClauses, KindTexts) {
     EXPECT_TRUE(sameXML("<ROOT><REPORT_PRESENT_AFTER><OPTION>" +
                             std::string(Text) +
                             "</OPTION></REPORT_PRESENT_AFTER></ROOT>",
-                        emit(C)))
+                        placed(C)))
         << "after " << Value;
   }
 
@@ -1000,7 +986,7 @@ TEST(ReportGroupClauses, KindTexts) {
     EXPECT_TRUE(sameXML("<ROOT><REPORT_PRESENT_WHEN><OPTION>" +
                             std::string(Text) +
                             "</OPTION></REPORT_PRESENT_WHEN></ROOT>",
-                        emit(C)))
+                        placed(C)))
         << "when " << Value;
   }
 
@@ -1016,7 +1002,7 @@ TEST(ReportGroupClauses, KindTexts) {
     EXPECT_TRUE(sameXML(
         "<ROOT><REPORT_SOURCE_ARITHMETIC_EXPR><OPERATOR>" + std::string(Text) +
             "</OPERATOR></REPORT_SOURCE_ARITHMETIC_EXPR></ROOT>",
-        emit(C)))
+        placed(C)))
         << "operator " << Value;
   }
 }
@@ -1047,7 +1033,7 @@ TEST(ReportGroupClauses, PlacementClauses) {
      </REPORT_VARYING_PHRASE>
     </VARYING_LIST>
    </REPORT_LINES></ROOT>)"),
-                      emit(Line, true)));
+                      placed(Line, true)));
 
   // COLUMN CENTER 10 20: the alignment word as written.
   auto *Column = T.on<ClauseColumn>(81, 12, 30);
@@ -1060,21 +1046,21 @@ TEST(ReportGroupClauses, PlacementClauses) {
        <VALUE>10</VALUE><VALUE>20</VALUE>
       </COLUMN_INTEGER_LIST>
     </REPORT_COLUMN></ROOT>)",
-                      emit(Column)));
+                      placed(Column)));
   Column = T.on<ClauseColumn>(82, 12, 30);
   Column->setLeftWord(T.word("LEFT", 82, 19));
   Column->setRightWord(T.word("right", 82, 24));
   EXPECT_TRUE(sameXML(R"(<ROOT><REPORT_COLUMN>
       <COLUMN_OPTION>LEFT</COLUMN_OPTION><COLUMN_OPTION>right</COLUMN_OPTION>
     </REPORT_COLUMN></ROOT>)",
-                      emit(Column)));
+                      placed(Column)));
 
   // NEXT GROUP 5, and NEXT GROUP NEXT PAGE.
   auto *Next = T.on<ClauseNextGroup>(83, 12, 24);
   Next->setIntegerExpr(T.num("5", 83, 24));
   EXPECT_TRUE(sameXML("<ROOT><REPORT_NEXT_GROUP><GROUP_INTEGER><VALUE>5"
                       "</VALUE></GROUP_INTEGER></REPORT_NEXT_GROUP></ROOT>",
-                      emit(Next)));
+                      placed(Next)));
 
   // REPEATED 3 TIMES EVERY 20 COLUMNS.
   auto *Repeated = T.on<ClauseRepeated>(84, 12, 45);
@@ -1083,7 +1069,7 @@ TEST(ReportGroupClauses, PlacementClauses) {
   EXPECT_TRUE(sameXML(R"(<ROOT><REPORT_REPEATED>
       <TIMES><VALUE>3</VALUE></TIMES><COLUMNS><VALUE>20</VALUE></COLUMNS>
     </REPORT_REPEATED></ROOT>)",
-                      emit(Repeated)));
+                      placed(Repeated)));
 
   // TYPE CONTROL HEADING PAGE ALL, with one control item.
   auto *Type = T.type(RPT_TYPE_CH, 85, 12, 50);
@@ -1098,7 +1084,7 @@ TEST(ReportGroupClauses, PlacementClauses) {
       <PAGE_OPTION>page</PAGE_OPTION>
       <ALL_OPTION>All</ALL_OPTION>
     </REPORT_TYPE></ROOT>)",
-                      emit(Type)));
+                      placed(Type)));
 }
 
 // FUNCTION, the report VALUE and OCCURS clauses (each nesting what it
@@ -1124,7 +1110,7 @@ TEST(ReportGroupClauses, ValueFunctionOccursAndPresentationClauses) {
        </AFTER_CONTROL_ID>
       </REPORT_PRESENT_AFTER>
     </REPORT_FUNCTION></ROOT>)",
-                      emit(Function)));
+                      placed(Function)));
 
   // 91            VALUE 'A' PRESENT WHEN sw-on: the ordinary VALUE clause
   // nests first, located like the report VALUE clause.
@@ -1157,7 +1143,7 @@ TEST(ReportGroupClauses, ValueFunctionOccursAndPresentationClauses) {
      </WHEN_CONDITION>
     </REPORT_PRESENT_WHEN>
    </REPORT_VALUE></ROOT>)"),
-                      emit(Value, true)));
+                      placed(Value, true)));
 
   // 92            OCCURS 3 TIMES VARYING ws-i FROM 1 BY 1 STEP 12 COLUMNS
   auto *Occurs = T.on<ClauseReportOccurs>(92, 12, 62);
@@ -1183,7 +1169,7 @@ TEST(ReportGroupClauses, ValueFunctionOccursAndPresentationClauses) {
     <OCCURS_OPTION @(92,52,66)>STEP_COLUMNS</OCCURS_OPTION>
     <INTEGER @(92,57,58)><VALUE @(92,57,58)>12</VALUE></INTEGER>
    </REPORT_OCCURS></ROOT>)"),
-                      emit(Occurs, true)));
+                      placed(Occurs, true)));
 
   // 93            WRAP AFTER COLUMN 60 TO COLUMN 10 STEP 1 LINE; a phrase
   // without its number writes nothing.
@@ -1202,7 +1188,7 @@ TEST(ReportGroupClauses, ValueFunctionOccursAndPresentationClauses) {
       <TO_COLUMN_EXPR><VALUE>10</VALUE></TO_COLUMN_EXPR>
       <STEP_LINES_EXPR><VALUE>1</VALUE></STEP_LINES_EXPR>
     </REPORT_WRAP></ROOT>)",
-                      emit(Wrap)));
+                      placed(Wrap)));
   WrapTo->setToColExpr(nullptr);
   Wrap->setAfterPhrase(nullptr);
   Wrap->setWithNoWrapWord(T.word("NO", 93, 58));
@@ -1210,14 +1196,14 @@ TEST(ReportGroupClauses, ValueFunctionOccursAndPresentationClauses) {
       <STEP_LINES_EXPR><VALUE>1</VALUE></STEP_LINES_EXPR>
       <NO_WRAP_OPTION>TRUE</NO_WRAP_OPTION>
     </REPORT_WRAP></ROOT>)",
-                      emit(Wrap)));
+                      placed(Wrap)));
 
   // MULTIPLE PAGE with NO.
   auto *Multiple = T.on<ClauseMultiple>(94, 12, 30);
   Multiple->setNoWord(T.word("no", 94, 21));
   EXPECT_TRUE(sameXML(located(R"(<ROOT><REPORT_MULTIPLE @(94,12,30)>
       <NO_OPTION @(94,21,22)>TRUE</NO_OPTION></REPORT_MULTIPLE></ROOT>)"),
-                      emit(Multiple, true)));
+                      placed(Multiple, true)));
 
   // SIGN: only the LEADING word is written, as "OPTION"; a TRAILING word
   // is not, though both literals are.
@@ -1231,10 +1217,10 @@ TEST(ReportGroupClauses, ValueFunctionOccursAndPresentationClauses) {
       <LEADING_LITERAL><VALUE>+</VALUE></LEADING_LITERAL>
       <TRAILING_LITERAL><VALUE>-</VALUE></TRAILING_LITERAL>
     </REPORT_SIGN></ROOT>)",
-                      emit(Sign)));
+                      placed(Sign)));
   auto *Trailing = T.on<ClauseReportSign>(96, 12, 30);
   Trailing->setTrailingWord(T.word("TRAILING", 96, 17));
-  EXPECT_TRUE(sameXML("<ROOT><REPORT_SIGN/></ROOT>", emit(Trailing)));
+  EXPECT_TRUE(sameXML("<ROOT><REPORT_SIGN/></ROOT>", placed(Trailing)));
 
   // STYLE bold WHEN sw-on, and STYLE NORMAL: the NORMAL word is wrapped in
   // the list's tag.
@@ -1250,13 +1236,13 @@ TEST(ReportGroupClauses, ValueFunctionOccursAndPresentationClauses) {
        <DATA_IDENTIFIER><DATA_ID>0</DATA_ID><QUALIFIED>sw-on</QUALIFIED></DATA_IDENTIFIER>
       </OPERAND></COND_NAME_CONDITION></WHEN_CONDITION>
     </REPORT_STYLE></ROOT>)",
-                      emit(Style)));
+                      placed(Style)));
   auto *Normal = T.on<ClauseRddStyle>(98, 12, 30);
   Normal->setNormalWord(T.word("normal", 98, 18));
   EXPECT_TRUE(sameXML(located(R"(<ROOT><REPORT_STYLE @(98,12,30)>
       <STYLENAME_LIST @(98,18,23)><WORD @(98,18,23)>NORMAL</WORD></STYLENAME_LIST>
     </REPORT_STYLE></ROOT>)"),
-                      emit(Normal, true)));
+                      placed(Normal, true)));
 }
 
 //===----------------------------------------------------------------------===//

@@ -13,6 +13,7 @@
 //===----------------------------------------------------------------------===//
 
 #include "TreeBuilder.h"
+#include "EmitterHarness.h"
 #include "XMLCompare.h"
 #include "korvid/XMLOstrel.h"
 
@@ -29,10 +30,7 @@ using korvid::test::TreeBuilder;
 
 namespace {
 
-struct Emitter : XMLOstrel {
-  using XMLOstrel::stampLocation;
-  XMLHandler &handler() { return *Handler; }
-};
+using Emitter = korvid::test::TestEmitter;
 
 /// One node written as its parent would write it: visited, stamped with the
 /// node's location and placed in a document of its own.
