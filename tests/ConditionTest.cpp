@@ -20,18 +20,6 @@ namespace {
 using Emitter = korvid::test::TestEmitter;
 using korvid::test::visited;
 
-/// The operand `name` as a data identifier spanning Line:Col onwards.
-DataIdentifierExpression *dataName(TreeBuilder &T, const std::string &Text,
-                                   uint32_t Line, uint32_t Col) {
-  Word *W = T.word(Text, Line, Col);
-  auto *Q = T.at<QualifiedWord>(Line, Col, Line, W->getEndCharPos());
-  Q->setRearWord(W);
-  auto *D = T.at<DataIdentifierExpression>(Line, Col, Line,
-                                           W->getEndCharPos());
-  D->setName(Q);
-  return D;
-}
-
 /// Left op Right between two data names, spanning both.
 RelationalCondition *relation(TreeBuilder &T, const std::string &Left,
                               RelationalConditionType Op,
@@ -41,8 +29,8 @@ RelationalCondition *relation(TreeBuilder &T, const std::string &Left,
       Line, LeftCol, Line,
       RightCol + static_cast<uint32_t>(Right.size()) - 1);
   R->setConditionType(Op);
-  R->setLeft(dataName(T, Left, Line, LeftCol));
-  R->setRight(dataName(T, Right, Line, RightCol));
+  R->setLeft(T.dataName(Left, Line, LeftCol));
+  R->setRight(T.dataName(Right, Line, RightCol));
   return R;
 }
 
@@ -125,7 +113,7 @@ TEST(ClassCondition, TestTextsNegationAndUnknownTests) {
   auto *C = T.at<ClassCondition>(6, 12, 6, 25);
   C->setType(CLS_OP_NOT_NUM);
   C->setClassWord(T.word("numeric", 6, 19));
-  C->setLeft(dataName(T, "x", 6, 12));
+  C->setLeft(T.dataName("x", 6, 12));
   EXPECT_TRUE(sameXML(R"(
 <CLASS_CONDITION>
   <OPERAND lbl="6" lbc="12" lel="6" lec="12" lblo="6" lbco="12" lelo="6"
@@ -187,7 +175,7 @@ TEST(SignCondition, TestTextsAndNegation) {
   auto *S = T.at<SignCondition>(8, 12, 8, 22);
   S->setOpType(SIGN_OP_NOT_ZERO);
   S->setSignWord(T.word("Zero", 8, 19));
-  S->setOperand(dataName(T, "x", 8, 12));
+  S->setOperand(T.dataName("x", 8, 12));
   EXPECT_TRUE(sameXML(R"(
 <SIGN_CONDITION>
   <OPERAND lbl="8" lbc="12" lel="8" lec="12" lblo="8" lbco="12" lelo="8"
@@ -328,9 +316,9 @@ TEST(ConditionNesting, CombinedHoldsNegatedHoldsRelational) {
   auto *Sign = T.at<SignCondition>(3, 27, 3, 44);
   Sign->setOpType(SIGN_OP_NOT_POSITIVE);
   Sign->setSignWord(T.word("positive", 3, 37));
-  Sign->setOperand(dataName(T, "x", 3, 27));
+  Sign->setOperand(T.dataName("x", 3, 27));
   auto *Flag = T.at<ConditionNameCondition>(3, 50, 3, 56);
-  Flag->setConditionName(dataName(T, "flag-on", 3, 50));
+  Flag->setConditionName(T.dataName("flag-on", 3, 50));
   auto *And = T.at<CombinedCondition>(3, 27, 3, 56);
   And->setOpTy(COMB_OP_AND);
   And->setCombinedWord(T.word("and", 3, 46));
@@ -426,7 +414,7 @@ TEST(NamedConditions, ConditionNameSwitchAndAbbreviatedRelation) {
   auto *Entry = T.at<ExDataDescription>(2, 8, 2, 40);
   Entry->setID(12);
   auto *Name = T.at<ConditionNameCondition>(3, 12, 3, 18);
-  Name->setConditionName(dataName(T, "is-eof", 3, 12));
+  Name->setConditionName(T.dataName("is-eof", 3, 12));
   Name->getConditionName()->setTarget(Entry);
   EXPECT_TRUE(sameXML(R"(
 <COND_NAME_CONDITION>
@@ -557,8 +545,8 @@ TEST(ConditionDeathTest, BrokenOperatorsAbort) {
   Emitter E;
 
   auto *Rel = T.at<RelationalCondition>(1, 1, 1, 5);
-  Rel->setLeft(dataName(T, "a", 1, 1));
-  Rel->setRight(dataName(T, "b", 1, 5));
+  Rel->setLeft(T.dataName("a", 1, 1));
+  Rel->setRight(T.dataName("b", 1, 5));
   for (int Op : {0, 1, 8}) {
     Rel->setConditionType(static_cast<RelationalConditionType>(Op));
     EXPECT_DEATH(E.visit(static_cast<Condition *>(Rel)),

@@ -46,17 +46,6 @@ template <class L> L *literal(TreeBuilder &T, const std::string &Text,
   return Lit;
 }
 
-DataIdentifierExpression *dataName(TreeBuilder &T, const std::string &Text,
-                                   uint32_t Line, uint32_t Col) {
-  Word *W = T.word(Text, Line, Col);
-  auto *Q = T.at<QualifiedWord>(Line, Col, Line, W->getEndCharPos());
-  Q->setRearWord(W);
-  auto *D = T.at<DataIdentifierExpression>(Line, Col, Line,
-                                           W->getEndCharPos());
-  D->setName(Q);
-  return D;
-}
-
 //===----------------------------------------------------------------------===//
 // Literals, words and names
 //===----------------------------------------------------------------------===//
@@ -237,7 +226,7 @@ TEST(DataIdentifierExpression, ResolvedIdNameSubscriptAndBareRefmod) {
 TEST(FunctionIdentifierExpression, NormalisedNameArgsAndDoubleRefmod) {
   TreeBuilder T;
   auto *Args = T.at<SubscriptModifier>(4, 30, 4, 37);
-  Args->addSubscript(dataName(T, "nm", 4, 31));
+  Args->addSubscript(T.dataName("nm", 4, 31));
   Args->addSubscript(literal<NonNumericLiteralExpression>(T, "x", 4, 34));
   auto *Ref = T.at<ReferenceModifier>(4, 39, 4, 43);
   Ref->setFromExpr(literal<NumericLiteralExpression>(T, "2", 4, 40));
@@ -322,7 +311,7 @@ TEST(SpecialRegisterIdentifierExpression, NamesOfEveryRegister) {
   auto *Len = T.at<SpecialRegisterIdentifierExpression>(7, 12, 7, 25);
   Len->setType(SR_LENGTH_OF);
   Len->setRegisterWord(T.word("Length", 7, 12));
-  Len->setIdent(dataName(T, "x", 7, 22));
+  Len->setIdent(T.dataName("x", 7, 22));
   EXPECT_TRUE(sameXML(R"(
 <SPECIAL_REGISTER_IDENTIFIER>
   <VALUE lbl="7" lbc="12" lel="7" lec="17" lblo="7" lbco="12" lelo="7"
@@ -366,7 +355,7 @@ TEST(ArithmeticExpression, OperatorTextsAndOperands) {
   auto *Pow = T.at<ArithmeticExpression>(2, 1, 2, 6);
   Pow->setArithmeticExprType(ARITH_EXPR_SQUARE);
   Pow->setOperator1(T.word("**", 2, 3));
-  Pow->setOperand1(dataName(T, "a", 2, 1));
+  Pow->setOperand1(T.dataName("a", 2, 1));
   Pow->setOperand2(literal<NumericLiteralExpression>(T, "2", 2, 6));
   EXPECT_TRUE(sameXML(R"(
 <ARITHMETIC_EXPR>
@@ -439,13 +428,13 @@ TEST(ExpressionNesting, ArithmeticInSubscriptInReferenceModifiedName) {
   auto *Sum = T.at<ArithmeticExpression>(8, 17, 8, 21);
   Sum->setArithmeticExprType(ARITH_EXPR_PLUS);
   Sum->setOperator1(T.word("+", 8, 19));
-  Sum->setOperand1(dataName(T, "i", 8, 17));
+  Sum->setOperand1(T.dataName("i", 8, 17));
   Sum->setOperand2(literal<NumericLiteralExpression>(T, "1", 8, 21));
   auto *Sub = T.at<SubscriptModifier>(8, 16, 8, 22);
   Sub->addSubscript(Sum);
   auto *Ref = T.at<ReferenceModifier>(8, 24, 8, 27);
-  Ref->setFromExpr(dataName(T, "k", 8, 25));
-  auto *D = dataName(T, "tab", 8, 12);
+  Ref->setFromExpr(T.dataName("k", 8, 25));
+  auto *D = T.dataName("tab", 8, 12);
   D->setTarget(Entry);
   D->setSubscriptMod(Sub);
   D->setReferenceMod(Ref);
@@ -497,7 +486,7 @@ TEST(AbbrRelationCombinedExpression, ConnectivesOperandsAndParenthList) {
   // a = 1 OR (> 5 AND 6 OR 7)
   auto *Rel = T.at<RelationalCondition>(3, 12, 3, 16);
   Rel->setConditionType(REL_OP_EQ);
-  Rel->setLeft(dataName(T, "a", 3, 12));
+  Rel->setLeft(T.dataName("a", 3, 12));
   Rel->setRight(literal<NumericLiteralExpression>(T, "1", 3, 16));
   auto *X = T.at<AbbrRelationCombinedExpression>(3, 12, 3, 40);
   X->setType(ABBR_COMB_OR);

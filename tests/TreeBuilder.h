@@ -50,6 +50,19 @@ struct TreeBuilder {
     uint32_t End = Col + static_cast<uint32_t>(Text.size()) - 1;
     return at<Word>(Line, Col, Line, End, Upper, Text);
   }
+
+  /// An unresolved reference to the data item \p Text at Line:Col, its
+  /// name a one-level qualified word.
+  DataIdentifierExpression *dataName(const std::string &Text, uint32_t Line,
+                                     uint32_t Col) {
+    Word *W = word(Text, Line, Col);
+    uint32_t End = W->getEndCharPos();
+    auto *Q = at<QualifiedWord>(Line, Col, Line, End);
+    Q->setRearWord(W);
+    auto *D = at<DataIdentifierExpression>(Line, Col, Line, End);
+    D->setName(Q);
+    return D;
+  }
 };
 
 } // namespace test
